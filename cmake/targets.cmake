@@ -1,0 +1,46 @@
+# How the folders become targets. A subsystem's folder is its core, its ui/ folder the part that may know Qt.
+
+# korvin_core(NAME LINKS ...): src/NAME/*.cpp as korvin_NAME, without Qt: a stray include fails to compile.
+function(korvin_core name)
+  cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${name}/*.cpp ${CMAKE_SOURCE_DIR}/src/${name}/*.h)
+  add_library(korvin_${name} STATIC ${sources})
+  set_target_properties(korvin_${name} PROPERTIES LINKER_LANGUAGE CXX)
+  target_include_directories(korvin_${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+  target_link_libraries(korvin_${name} PUBLIC ${ARG_LINKS})
+endfunction()
+
+# korvin_ui(NAME LINKS ...): src/NAME/ui/*.cpp as korvin_NAME_ui.
+function(korvin_ui name)
+  cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${name}/ui/*.cpp ${CMAKE_SOURCE_DIR}/src/${name}/ui/*.h)
+  if(NOT sources)
+    add_library(korvin_${name}_ui INTERFACE)
+    target_link_libraries(korvin_${name}_ui INTERFACE ${ARG_LINKS} Qt6::Widgets)
+    return()
+  endif()
+  add_library(korvin_${name}_ui STATIC ${sources})
+  set_target_properties(korvin_${name}_ui PROPERTIES LINKER_LANGUAGE CXX AUTOMOC ON)
+  target_link_libraries(korvin_${name}_ui PUBLIC ${ARG_LINKS} Qt6::Widgets Qt6::PrintSupport Qt6::Svg Qt6::SvgWidgets)
+  target_compile_definitions(korvin_${name}_ui PUBLIC QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
+  target_compile_options(korvin_${name}_ui PRIVATE -Wno-null-dereference)
+endfunction()
+
+# korvin_tests(NAME LINKS ...): tests/NAME/*.cpp as test_NAME, each case a test of its own.
+function(korvin_tests name)
+  cmake_parse_arguments(ARG "" "FOLDER" "LINKS;ENVIRONMENT" ${ARGN})
+  if(NOT ARG_FOLDER)
+    set(ARG_FOLDER ${name})
+  endif()
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${ARG_FOLDER}/*.cpp)
+  if(NOT sources)
+    return()
+  endif()
+  add_executable(test_${name} ${sources})
+  target_include_directories(test_${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  target_link_libraries(test_${name} PRIVATE ${ARG_LINKS} GTest::gmock)
+  target_compile_definitions(test_${name} PRIVATE KORVIN_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/data"
+                             KORVIN_BIN="${CMAKE_BINARY_DIR}/bin" KORVIN_SOURCE="${CMAKE_SOURCE_DIR}")
+  target_compile_options(test_${name} PRIVATE -Wno-null-dereference)
+  gtest_discover_tests(test_${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300 ENVIRONMENT "${ARG_ENVIRONMENT}")
+endfunction()
