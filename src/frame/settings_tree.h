@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -14,8 +15,9 @@ inline constexpr std::uint32_t HKEY_CURRENT_USER_Root = 0x80000001;
 /// A stored value: a text (`REG_SZ`), a 32-bit number (`REG_DWORD`), or another kind that is never read.
 using RegWert = std::variant<std::monostate, std::string, std::int32_t>;
 
-/// The hierarchical store of settings, below the registry operations. A port: one SQLite file in the program, memory in
-/// tests. Paths separate keys by '\\'; key and value names compare without regard to case. Texts are UTF-8.
+/// The hierarchical store of settings, below the registry operations. A port: one SQLite file in the program,
+/// memory in tests. Paths separate keys by '\\'; key and value names compare without regard to case. Texts
+/// are UTF-8.
 class SettingsTree {
  public:
   virtual ~SettingsTree() = default;
@@ -33,8 +35,13 @@ class SettingsTree {
   /// Deletes the key with its values. False if it isn't there, has keys below it, or can't be deleted.
   virtual bool deleteKey(std::string_view path) = 0;
 
-  /// Empty while the store can be read; otherwise why it can't, in the system's words. A store in this state holds its
-  /// file untouched, reads as empty and refuses to write.
+  /// Runs `steps` as one change: another process, and the next start after a crash, sees all of it or nothing
+  /// of it. The result is that of `steps`, or false if the change can't be begun or kept. What `steps` did
+  /// stays, also when they answer false. A change inside a change belongs to the outer one.
+  virtual bool inOneChange(const std::function<bool()>& steps) { return steps(); }
+
+  /// Empty while the store can be read; otherwise why it can't, in the system's words. A store in this state
+  /// holds its file untouched, reads as empty and refuses to write.
   virtual std::string unreadable() const = 0;
 };
 

@@ -1,16 +1,7 @@
 #include "support/test_ports.h"
 
-#include <algorithm>
-
 namespace korvin::test {
 namespace {
-
-std::string lower(std::string_view text) {
-  std::string out(text);
-  std::transform(out.begin(), out.end(), out.begin(),
-                 [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-  return out;
-}
 
 MessageAnswer harmless(MessageButtons buttons) {
   switch (buttons) {
@@ -50,40 +41,26 @@ std::string TestFileDialog::choose(const FileDialogRequest& request) {
   return takeFirst(answers, std::string{});
 }
 
-bool MemorySettingsTree::keyExists(std::string_view path) { return keys.contains(lower(path)); }
+bool MemorySettingsTree::keyExists(std::string_view path) {
+  return unreadableText.empty() && korvin::MemorySettingsTree::keyExists(path);
+}
 
 std::optional<RegWert> MemorySettingsTree::readValue(std::string_view path, std::string_view name) {
-  const auto key = keys.find(lower(path));
-  if (key == keys.end()) return std::nullopt;
-  const auto value = key->second.values.find(lower(name));
-  if (value == key->second.values.end()) return std::nullopt;
-  return value->second;
+  if (!unreadableText.empty()) return std::nullopt;
+  return korvin::MemorySettingsTree::readValue(path, name);
 }
 
 bool MemorySettingsTree::writeValue(std::string_view path, std::string_view name, const RegWert& value) {
-  const auto key = keys.find(lower(path));
-  if (key == keys.end() || !writable) return false;
-  key->second.values[lower(name)] = value;
-  return true;
+  return canWrite() && korvin::MemorySettingsTree::writeValue(path, name, value);
 }
 
 SettingsTree::Creation MemorySettingsTree::createKey(std::string_view path, std::string_view className) {
-  if (keyExists(path)) return Creation::existed;
-  if (!writable) return Creation::failed;
-  const std::size_t parentEnd = path.rfind('\\');
-  if (parentEnd != std::string_view::npos && !keyExists(path.substr(0, parentEnd))) {
-    createKey(path.substr(0, parentEnd), "");
-  }
-  keys[lower(path)].className = className;
-  return Creation::created;
+  if (!canWrite()) return keyExists(path) ? Creation::existed : Creation::failed;
+  return korvin::MemorySettingsTree::createKey(path, className);
 }
 
 bool MemorySettingsTree::deleteKey(std::string_view path) {
-  const std::string wanted = lower(path);
-  const bool hasKeysBelow = std::any_of(keys.begin(), keys.end(), [&](const auto& key) {
-    return key.first.starts_with(wanted + "\\");
-  });
-  return writable && !hasKeysBelow && keys.erase(wanted) > 0;
+  return canWrite() && korvin::MemorySettingsTree::deleteKey(path);
 }
 
 }  // namespace korvin::test

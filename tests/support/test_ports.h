@@ -7,14 +7,15 @@
 
 #include "frame/dictionary.h"
 #include "frame/file_dialog.h"
+#include "frame/memory_settings_tree.h"
 #include "frame/message_port.h"
 #include "frame/program_end.h"
 #include "frame/random_source.h"
-#include "frame/settings_tree.h"
 
 namespace korvin::test {
 
-/// Records message boxes and answers them from a list; without a prepared answer the first harmless button is pressed.
+/// Records message boxes and answers them from a list; without a prepared answer the first harmless button is
+/// pressed.
 class TestMessages : public MessagePort {
  public:
   struct Shown {
@@ -48,7 +49,9 @@ struct ProgramEnded {
 
 class TestProgramEnd : public ProgramEnd {
  public:
-  [[noreturn]] void end(const std::string& systemText, long number) override { throw ProgramEnded{systemText, number}; }
+  [[noreturn]] void end(const std::string& systemText, long number) override {
+    throw ProgramEnded{systemText, number};
+  }
 };
 
 /// Gives the numbers it is told, again and again.
@@ -71,8 +74,8 @@ class TestFileDialog : public FileDialog {
   std::deque<std::string> answers;
 };
 
-/// The settings tree in memory.
-class MemorySettingsTree : public SettingsTree {
+/// The settings tree in memory, which can be made to refuse.
+class MemorySettingsTree : public korvin::MemorySettingsTree {
  public:
   bool keyExists(std::string_view path) override;
   std::optional<RegWert> readValue(std::string_view path, std::string_view name) override;
@@ -81,13 +84,12 @@ class MemorySettingsTree : public SettingsTree {
   bool deleteKey(std::string_view path) override;
   std::string unreadable() const override { return unreadableText; }
 
-  struct Key {
-    std::string className;
-    std::map<std::string, RegWert> values;
-  };
-  std::map<std::string, Key> keys;  ///< by their paths in lower case (ASCII)
+  using korvin::MemorySettingsTree::keys;
   bool writable = true;
-  std::string unreadableText;
+  std::string unreadableText;  ///< if not empty, reads give nothing and writes refuse
+
+ private:
+  bool canWrite() const { return writable && unreadableText.empty(); }
 };
 
 }  // namespace korvin::test
