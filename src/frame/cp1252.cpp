@@ -34,12 +34,12 @@ std::optional<char> byteOf(char32_t character) {
   return static_cast<char>(middleBegin + static_cast<char32_t>(found - middleBlock.begin()));
 }
 
-/// How many bytes a sequence with this first byte has; 0 if none starts so.
+/// How many bytes a sequence with this first byte claims to have; 0 if none starts so.
 std::size_t sequenceLength(std::uint8_t first) {
   if (first < 0x80) return 1;
-  if (first >= 0xC2 && first < 0xE0) return 2;
+  if (first >= 0xC0 && first < 0xE0) return 2;
   if (first >= 0xE0 && first < 0xF0) return 3;
-  return first >= 0xF0 && first < 0xF5 ? 4 : 0;
+  return first >= 0xF0 && first < 0xF8 ? 4 : 0;
 }
 
 bool isFollower(std::uint8_t byte) {

@@ -62,6 +62,13 @@ TEST(Cp1252, BrokenUtf8IsRefused) {
   }
 }
 
+TEST(Cp1252, ACutTextIsRefusedWhateverFollowsInMemory) {
+  const std::string_view whole = "aü€";
+  EXPECT_FALSE(zuCp1252(whole.substr(0, 2)).has_value());
+  EXPECT_EQ(zuCp1252(whole.substr(0, 3)), "a\xFC");
+  EXPECT_FALSE(zuCp1252(whole.substr(0, 5)).has_value());
+}
+
 TEST(Cp1252, ATextCopyIsCp1252IfAllOfItFitsAndElseUtf8WithItsMark) {
   EXPECT_EQ(textkopieBytes("X[mm]\tGrün\r\n"), "X[mm]\tGr\xFCn\r\n");
   EXPECT_EQ(textkopieBytes("測定\tGrün\r\n"), "\xEF\xBB\xBF測定\tGrün\r\n");
