@@ -1,4 +1,5 @@
-// The pictures belong together: same grid, same colours, drawable by the program's own renderer, and told apart.
+// The pictures belong together: same grid, same colours, drawable by the program's own renderer, and told
+// apart.
 
 #include <gtest/gtest.h>
 
