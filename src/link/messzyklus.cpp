@@ -65,12 +65,12 @@ void Messzyklus::M_KVNOnline() {
   }
   marken_ = {true, true, false};
   ansicht_.zeigeVerbindung(marken_);
-  u_.werte.LinkFarbe = FarbeGruen;
+  u_.system.LinkFarbe = FarbeGruen;
   tmrPolling_->setEnabled(true);
 }
 
 void Messzyklus::M_KVNSimulation() {
-  u_.werte.LinkFarbe = FarbeRot;
+  u_.system.LinkFarbe = FarbeRot;
   marken_ = {false, false, true};
   ansicht_.zeigeVerbindung(marken_);
   tmrPolling_->setEnabled(!laeuft_);
@@ -163,7 +163,7 @@ void Messzyklus::tick(void (Messzyklus::*arbeit)()) {
 }
 
 bool Messzyklus::tickBeginnt() {
-  led_ = led_ != FarbeGrau ? FarbeGrau : u_.werte.LinkFarbe;
+  led_ = led_ != FarbeGrau ? FarbeGrau : u_.system.LinkFarbe;
   ansicht_.zeigeLed(led_);
   tmrPolling_->setEnabled(false);
   tmrJ_->setEnabled(false);
@@ -239,7 +239,7 @@ void Messzyklus::zustandAuswerten() {
 void Messzyklus::einzelmessung() {
   const char* taste = aufgabe_.beschreibung().tasteEinzel;
   ansicht_.zeigeSanduhr(true);
-  aufgabe_.setFilter(u_.werte.FilterVorgabe);
+  aufgabe_.setFilter(u_.system.FilterVorgabe);
   ansicht_.zeigeTaste(taste, true);
   if (!frage('M', u_.korCom.MesszeitLimit())) {
     // Hourglass and key stay as they are until the next single measurement ends: the user sees that it failed.
@@ -268,7 +268,7 @@ void Messzyklus::laufStarten(bool schnell) {
   tmrKeyPressed_->setInterval(LaufKeyPressedMs);
   tmrJ_->setInterval(LaufJMs);
   // The limits stay those of the level that was asked for before: the fast levels have none of their own.
-  if (schnell) aufgabe_.setFilter(schnelleStufe(u_.werte.FilterVorgabe));
+  if (schnell) aufgabe_.setFilter(schnelleStufe(u_.system.FilterVorgabe));
   aufgabe_.laufBeginnt(u_.clock.secondsOfDay());
   ansicht_.setTasteFrei(b.tasteEinrichten, false);
   laeuft_ = true;
@@ -318,7 +318,7 @@ void Messzyklus::laufBeenden() {
   tmrJ_->setEnabled(false);
   ansicht_.zeigeTaste(b.tasteLaufend, false);
   ansicht_.zeigeTaste(b.tasteSchnell, false);
-  aufgabe_.setFilter(u_.werte.FilterVorgabe);
+  aufgabe_.setFilter(u_.system.FilterVorgabe);
   tmrKeyPressed_->setInterval(LaufKeyPressedMs);
   tastenzustand_ = 'K';
   aufgabe_.laufBeendet();
@@ -329,12 +329,11 @@ void Messzyklus::laufBeenden() {
 // ---- Readings ----
 
 void Messzyklus::uebernehmen() {
-  std::string gespeichert;
-  u_.profil.ProfilLesen("Korvin.ini", "KorInfo", SchluesselNorm, "0", gespeichert);
-  const Qualitaet befund = qualitaetPruefen(u_.antwort, zahlAusText(gespeichert), u_.korCom.SensorHalbbereich(),
-                                            tastenzustand_ == 'K');
+  const double norm = zahlAusText(u_.profil.wert(AbschnittKorInfo, SchluesselNorm, "0"));
+  const Qualitaet befund =
+      qualitaetPruefen(u_.antwort, norm, u_.korCom.SensorHalbbereich(), tastenzustand_ == 'K');
   if (befund.neueNorm) {
-    u_.profil.ProfilSchreiben("Korvin.ini", "KorInfo", SchluesselNorm, std::to_string(*befund.neueNorm));
+    u_.profil.ProfilSchreiben(KorvinIni, AbschnittKorInfo, SchluesselNorm, std::to_string(*befund.neueNorm));
   }
   if (befund.schwaecher) icon(IconSchwaecher);
   ansicht_.zeigeIntensitaet(

@@ -10,6 +10,7 @@
 #include "frame/event_pump.h"
 #include "frame/farbe.h"
 #include "frame/message_port.h"
+#include "frame/messplatz.h"
 #include "frame/profil.h"
 #include "frame/timer.h"
 #include "link/kor_com.h"
@@ -18,12 +19,6 @@
 #include "link/messwert.h"
 
 namespace korvin {
-
-/// Shared values of the link that outlive a window.
-struct LinkWerte {
-  Farbe LinkFarbe = FarbeGruen;  ///< colour of the link indicator
-  char FilterVorgabe = '2';      ///< the filter as the user set it; a fast run works with a changed one
-};
 
 /// What a measuring cycle works with. All outlive it.
 struct ZyklusUmgebung {
@@ -36,7 +31,7 @@ struct ZyklusUmgebung {
   Meldung& meldung;
   KorCom& korCom;
   KameraAntwort& antwort;
-  LinkWerte& werte;
+  Systemwerte& system;
 };
 
 /// The measuring cycle of every window: polling, keys, info icons, quality check, reconnect, trigger line, starts and

@@ -8,14 +8,11 @@
 namespace korvin {
 namespace {
 
-constexpr const char* Datei = "Korvin.ini";
 constexpr const char* Abschnitt = "KorInfo";
 constexpr double PauseProPort = 0.05;
 
 int gespeicherteZahl(Profil& profil, const char* schluessel) {
-  std::string text;
-  profil.ProfilLesen(Datei, Abschnitt, schluessel, "", text);
-  return static_cast<int>(std::lround(zahlAusText(text)));
+  return static_cast<int>(std::lround(zahlAusText(profil.wert(Abschnitt, schluessel, ""))));
 }
 
 /// Opens, asks and closes. `antwortete` tells whether a head answered.
@@ -27,8 +24,8 @@ bool antwortet(SuchUmgebung& u, std::int16_t port, const std::string& settings) 
 }
 
 void merken(Profil& profil, std::int16_t port, const std::string& settings) {
-  profil.ProfilSchreiben(Datei, Abschnitt, "BaudRate", std::to_string(BaudRateAusSettings(settings)));
-  profil.ProfilSchreiben(Datei, Abschnitt, "PortNr", std::to_string(port));
+  profil.ProfilSchreiben(KorvinIni, Abschnitt, "BaudRate", std::to_string(BaudRateAusSettings(settings)));
+  profil.ProfilSchreiben(KorvinIni, Abschnitt, "PortNr", std::to_string(port));
 }
 
 bool durchsuchen(SuchUmgebung& u, SuchAnsicht& ansicht, const std::string& settings, int balkenVersatz) {
