@@ -14,7 +14,6 @@ namespace {
 
 constexpr const char* TextNurSimulation = "Simulation only";
 constexpr double PauseWiederverbinden = 1.0;
-constexpr const char* SchluesselNorm = "NormInt_Laser";
 
 /// The level of a fast run: '5' to '7', from the level that the user has set.
 char schnelleStufe(char vorgabe) {
@@ -329,11 +328,11 @@ void Messzyklus::laufBeenden() {
 // ---- Readings ----
 
 void Messzyklus::uebernehmen() {
-  const double norm = zahlAusText(u_.profil.wert(AbschnittKorInfo, SchluesselNorm, "0"));
+  const double norm = zahlAusText(u_.profil.wert(einstellung::Verbindung::NormInt_Laser));
   const Qualitaet befund =
       qualitaetPruefen(u_.antwort, norm, u_.korCom.SensorHalbbereich(), tastenzustand_ == 'K');
   if (befund.neueNorm) {
-    u_.profil.ProfilSchreiben(KorvinIni, AbschnittKorInfo, SchluesselNorm, std::to_string(*befund.neueNorm));
+    u_.profil.schreiben(einstellung::Verbindung::NormInt_Laser, std::to_string(*befund.neueNorm));
   }
   if (befund.schwaecher) icon(IconSchwaecher);
   ansicht_.zeigeIntensitaet(

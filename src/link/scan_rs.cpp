@@ -8,11 +8,10 @@
 namespace korvin {
 namespace {
 
-constexpr const char* Abschnitt = "KorInfo";
 constexpr double PauseProPort = 0.05;
 
-int gespeicherteZahl(Profil& profil, const char* schluessel) {
-  return static_cast<int>(std::lround(zahlAusText(profil.wert(Abschnitt, schluessel, ""))));
+int gespeicherteZahl(Profil& profil, const Einstellung& einstellung) {
+  return static_cast<int>(std::lround(zahlAusText(profil.wert(einstellung))));
 }
 
 /// Opens, asks and closes. `antwortete` tells whether a head answered.
@@ -24,8 +23,8 @@ bool antwortet(SuchUmgebung& u, std::int16_t port, const std::string& settings) 
 }
 
 void merken(Profil& profil, std::int16_t port, const std::string& settings) {
-  profil.ProfilSchreiben(KorvinIni, Abschnitt, "BaudRate", std::to_string(BaudRateAusSettings(settings)));
-  profil.ProfilSchreiben(KorvinIni, Abschnitt, "PortNr", std::to_string(port));
+  profil.schreiben(einstellung::ScanRS::BaudRate, std::to_string(BaudRateAusSettings(settings)));
+  profil.schreiben(einstellung::ScanRS::PortNr, std::to_string(port));
 }
 
 bool durchsuchen(SuchUmgebung& u, SuchAnsicht& ansicht, const std::string& settings, int balkenVersatz) {
@@ -44,8 +43,8 @@ bool durchsuchen(SuchUmgebung& u, SuchAnsicht& ansicht, const std::string& setti
 
 bool ScanRS(SuchUmgebung& u, SuchAnsicht& ansicht) {
   ansicht.beginne(0, 2 * LetzterPort, 1);
-  const auto port = static_cast<std::int16_t>(gespeicherteZahl(u.profil, "PortNr"));
-  if (antwortet(u, port, SettingsAusBaudRate(gespeicherteZahl(u.profil, "BaudRate")))) return true;
+  const auto port = static_cast<std::int16_t>(gespeicherteZahl(u.profil, einstellung::ScanRS::PortNr));
+  if (antwortet(u, port, SettingsAusBaudRate(gespeicherteZahl(u.profil, einstellung::ScanRS::BaudRate)))) return true;
   return durchsuchen(u, ansicht, Settings115200, 0) || durchsuchen(u, ansicht, Settings19200, LetzterPort);
 }
 

@@ -36,9 +36,9 @@ class RecordingView : public MessfensterAnsicht {
   void setTasteFrei(const std::string& key, bool free) override { keyFree[key] = free; }
   void drueckeTaste(const std::string& key) override { presses.push_back(key); }
   void zeigeSanduhr(bool on) override { hourglass = on; }
-  void neuZeichnen(bool changed) override {
+  void neuZeichnen(bool geaendert) override {
     ++redraws;
-    this->changed = this->changed || changed;
+    changed = changed || geaendert;
   }
   void entladen() override {
     ++unloads;
