@@ -342,7 +342,7 @@ void Messzyklus::uebernehmen() {
   ansicht_.neuZeichnen(true);
   if (!befund.ok) {
     icon(IconAbgelehnt);
-    ansicht_.zeigeLeereWerte(" " + LeerMuster(aufgabe_.nkStellen()));
+    ansicht_.zeigeLeereWerte(" " + std::string(LeerMuster(aufgabe_.nkStellen())));
   }
 }
 
