@@ -196,13 +196,18 @@ TEST_F(ErfassungTest, MidnightWaitLetsTheWindowClose) {
 }
 
 TEST_F(ErfassungTest, FastRunKeepsFurtherAwayFromMidnight) {
-  world.clock.setNow(45000 + 86386.0 / 86400.0);
-  info().StartAktiv = true;
-  info().StartZeit = world.clock.now();
-  startRun('Q');
-  run(5);
-  // 86398 - 2 x 7 is 86384: the second point has to wait for midnight.
-  EXPECT_EQ(info().AnzahlMP, 1);
+  // 86398 - 2 x 7 is 86384: at 86386 a fast run's second point has to wait, a normal run's (2 x 2) has not.
+  for (const char key : {'Q', 'J'}) {
+    world.clock.setNow(45000 + 86386.0 / 86400.0);
+    task.neueMessung();
+    info().StartAktiv = true;
+    info().StartZeit = world.clock.now();
+    info().RestMP = 2;
+    startRun(key);
+    run(0.3);
+    ASSERT_EQ(info().AnzahlMP, 2);
+    EXPECT_EQ(formpos.punkte().T().at(2) >= 45001, key == 'Q');
+  }
 }
 
 TEST_F(ErfassungTest, LimitOf29999PointsEndsTheRunWithAWarning) {
