@@ -42,14 +42,20 @@ std::int32_t fehlernummer(const std::exception& fehler) {
 
 }  // namespace
 
-std::string SettingsAusBaudRate(int index) { return index == 0 ? Settings19200 : Settings115200; }
+std::string SettingsAusBaudRate(int index) {
+  return index == 0 ? Settings19200 : Settings115200;
+}
 
-int BaudRateAusSettings(std::string_view settings) { return settings == Settings19200 ? 0 : 1; }
+int BaudRateAusSettings(std::string_view settings) {
+  return settings == Settings19200 ? 0 : 1;
+}
 
 KorCom::KorCom(const Clock& clock, EventPump& pump, RandomSource& random, MessagePort& messages)
     : clock_(clock), pump_(pump), random_(random), messages_(messages) {}
 
-int KorCom::modul() const { return pruefmodul95_ ? Modul95 : Modul223; }
+int KorCom::modul() const {
+  return pruefmodul95_ ? Modul95 : Modul223;
+}
 
 bool KorCom::gezaehlt(KameraAntwort& antwort, const std::function<void()>& arbeit) {
   try {
@@ -62,8 +68,8 @@ bool KorCom::gezaehlt(KameraAntwort& antwort, const std::function<void()>& arbei
   }
 }
 
-bool KorCom::ComOeffnen(MSComm& control, std::int16_t port, const std::string& settings, const std::string& id,
-                        KameraAntwort& antwort) {
+bool KorCom::ComOeffnen(MSComm& control, std::int16_t port, const std::string& settings,
+                        const std::string& id, KameraAntwort& antwort) {
   antwort.ICA = 0;
   antwort.ICM = 0;
   antwort.BCC = 0;
@@ -113,7 +119,8 @@ bool KorCom::KameraEmpfang(MSComm& control, KameraAntwort& antwort) {
       antwort.Puffer.clear();
       return;
     }
-    // After a frame the buffer is never left truly empty; the blank lies before the next start byte and is harmless.
+    // After a frame the buffer is never left truly empty; the blank lies before the next start byte and is
+    // harmless.
     antwort.Puffer = " ";
     antwort.LetztesTelegramm = std::move(suche.rumpf);
     if (!PruefzeichenPruefen(antwort.LetztesTelegramm, modul())) {
@@ -152,7 +159,8 @@ bool KorCom::KameraAbfrage(MSComm& control, std::string_view nutzdaten, double l
     if (versuch == 3) pruefmodul95_ = false;
     KameraSenden(control, nutzdaten, antwort);
     gueltig = KameraWarten(control, limit, antwort);
-    // Set after failed attempts too: `Klasse` then still holds the last value. Every class but "1" is the large head.
+    // Set after failed attempts too: `Klasse` then still holds the last value. Every class but "1" is the
+    // large head.
     sensorHalbbereich_ = antwort.Klasse == '1' ? HalbbereichKlein : HalbbereichGross;
   }
   return gueltig;

@@ -34,8 +34,8 @@ inline constexpr double PollLimit = 0.5;
 
 /// The link: question and answer with the sensor head over a serial control, or with the simulated head.
 ///
-/// Calling order: `ComOeffnen`, any number of `KameraAbfrage`, `ComSchliessen`. No operation throws for a failing line:
-/// errors are counted in the answer record and end in `false`; no message comes from here.
+/// Calling order: `ComOeffnen`, any number of `KameraAbfrage`, `ComSchliessen`. No operation throws for a
+/// failing line: errors are counted in the answer record and end in `false`; no message comes from here.
 class KorCom {
  public:
   KorCom(const Clock& clock, EventPump& pump, RandomSource& random, MessagePort& messages);
@@ -47,12 +47,13 @@ class KorCom {
 
   /// One transaction: up to three attempts of `limit` seconds each. True when a valid answer is in `antwort`.
   /// With `online` clear the simulated head answers, always.
-  bool KameraAbfrage(MSComm& control, std::string_view nutzdaten, double limit, KameraAntwort& antwort, bool online);
+  bool KameraAbfrage(MSComm& control, std::string_view nutzdaten, double limit, KameraAntwort& antwort,
+                     bool online);
 
   /// Throws away what waits in the input, then sends the frame. What was consumed into `Puffer` stays.
   void KameraSenden(MSComm& control, std::string_view nutzdaten, KameraAntwort& antwort);
-  /// Looks for an answer until one is found or `limit` seconds have passed. A wait that midnight overtakes has an end
-  /// above every later time of day: it ends with the next good answer, or when `aufgeben` says so.
+  /// Looks for an answer until one is found or `limit` seconds have passed. A wait that midnight overtakes
+  /// has an end above every later time of day: it ends with the next good answer, or when `aufgeben` says so.
   bool KameraWarten(MSComm& control, double limit, KameraAntwort& antwort);
   /// One look at the received characters.
   bool KameraEmpfang(MSComm& control, KameraAntwort& antwort);
@@ -60,8 +61,8 @@ class KorCom {
   /// A made-up reading: six digits, uniform within 1000 counts (0.1 mm) of the centre.
   std::string SimWert();
 
-  /// The measuring time of a filter level as text; sets the two limits as a side effect. Levels beyond "4" have the
-  /// text "???" and medium limits.
+  /// The measuring time of a filter level as text; sets the two limits as a side effect. Levels beyond "4"
+  /// have the text "???" and medium limits.
   std::string FilterText(char filterstufe, Dictionary& dictionary);
 
   double SensorHalbbereich() const { return sensorHalbbereich_; }

@@ -10,8 +10,8 @@ namespace korvin {
 
 /// What differs between the measuring windows in the shared cycle, side by side as data.
 ///
-/// How to add a window: fill one of these, implement `Messaufgabe` in the kind's core and `MessfensterAnsicht` in its
-/// ui folder, and hand both to a `Messzyklus`.
+/// How to add a window: fill one of these, implement `Messaufgabe` in the kind's core and
+/// `MessfensterAnsicht` in its ui folder, and hand both to a `Messzyklus`.
 struct ZyklusBeschreibung {
   std::int16_t titelText;       ///< messages are titled "KORVIN-" and this text
   const char* tasteZurueck;     ///< toolbar key of the cursor, one back
@@ -26,9 +26,9 @@ struct ZyklusBeschreibung {
   bool mAlsLauftelegramm;       ///< an "m" answer in a running measurement is a reading
 };
 
-inline constexpr int InfoToggleMs = 2000;      ///< interval of `tmrInfoToggle`
-inline constexpr int LaufKeyPressedMs = 500;   ///< `tmrKeyPressed` from the first run on
-inline constexpr int LaufJMs = 15;             ///< `tmrJ` from the first run on
+inline constexpr int InfoToggleMs = 2000;     ///< interval of `tmrInfoToggle`
+inline constexpr int LaufKeyPressedMs = 500;  ///< `tmrKeyPressed` from the first run on
+inline constexpr int LaufJMs = 15;            ///< `tmrJ` from the first run on
 
 /// The position window's line of that table.
 inline constexpr ZyklusBeschreibung ZyklusPosition{
@@ -51,8 +51,8 @@ struct LaufSchritt {
   char befehl = 'J';
 };
 
-/// The part of measuring that belongs to a kind: where readings go and how a run proceeds. Implemented in the kind's
-/// core; it knows no window.
+/// The part of measuring that belongs to a kind: where readings go and how a run proceeds. Implemented in the
+/// kind's core; it knows no window.
 class Messaufgabe {
  public:
   virtual ~Messaufgabe() = default;

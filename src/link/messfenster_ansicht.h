@@ -8,13 +8,13 @@ namespace korvin {
 
 /// The check marks of the two link commands in the menu.
 struct Verbindungsmarken {
-  bool online = false;         ///< `M_KVNOnline` checked
-  bool onlineFrei = true;      ///< `M_KVNOnline` enabled
-  bool simulation = false;     ///< `M_KVNSimulation` checked
+  bool online = false;      ///< `M_KVNOnline` checked
+  bool onlineFrei = true;   ///< `M_KVNOnline` enabled
+  bool simulation = false;  ///< `M_KVNSimulation` checked
 };
 
-/// What the measuring cycle asks of its window: to show things, nothing else. All calls come from the window thread.
-/// Texts are UTF-8.
+/// What the measuring cycle asks of its window: to show things, nothing else. All calls come from the window
+/// thread. Texts are UTF-8.
 class MessfensterAnsicht {
  public:
   virtual ~MessfensterAnsicht() = default;
@@ -47,8 +47,8 @@ class MessfensterAnsicht {
   virtual void zeigeSanduhr(bool an) = 0;
   /// Redraws values and lists; `geaendert` marks the data as changed.
   virtual void neuZeichnen(bool geaendert) = 0;
-  /// Closes the window for good; the second request of closing. The cycle is not touched after this returns but for
-  /// leaving its tick, so the window must not delete it from inside.
+  /// Closes the window for good; the second request of closing. The cycle is not touched after this returns
+  /// but for leaving its tick, so the window must not delete it from inside.
   virtual void entladen() = 0;
 };
 

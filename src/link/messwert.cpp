@@ -19,7 +19,8 @@ Farbe farbeDerIntensitaet(int prozent) {
 
 }  // namespace
 
-Qualitaet qualitaetPruefen(const KameraAntwort& antwort, double norm, double halbbereich, bool imRuhezustand) {
+Qualitaet qualitaetPruefen(const KameraAntwort& antwort, double norm, double halbbereich,
+                           bool imRuhezustand) {
   Qualitaet befund;
   const std::int16_t prozent = antwort.Intensitaet;
   if (norm < prozent) {

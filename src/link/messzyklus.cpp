@@ -77,7 +77,9 @@ void Messzyklus::M_KVNSimulation() {
   ansicht_.zeigeNurSimulation(TextNurSimulation, FarbeRot);
 }
 
-std::string Messzyklus::titel() { return "KORVIN-" + u_.dictionary.DicText(aufgabe_.beschreibung().titelText); }
+std::string Messzyklus::titel() {
+  return "KORVIN-" + u_.dictionary.DicText(aufgabe_.beschreibung().titelText);
+}
 
 // ---- Requests from the window ----
 
@@ -241,7 +243,8 @@ void Messzyklus::einzelmessung() {
   aufgabe_.setFilter(u_.system.FilterVorgabe);
   ansicht_.zeigeTaste(taste, true);
   if (!frage('M', u_.korCom.MesszeitLimit())) {
-    // Hourglass and key stay as they are until the next single measurement ends: the user sees that it failed.
+    // Hourglass and key stay as they are until the next single measurement ends: the user sees that it
+    // failed.
     verbindungVerloren();
     return;
   }
@@ -336,7 +339,8 @@ void Messzyklus::uebernehmen() {
   }
   if (befund.schwaecher) icon(IconSchwaecher);
   ansicht_.zeigeIntensitaet(
-      u_.dictionary.DicText(3081) + ": " + formatNumber(u_.antwort.Intensitaet, "0") + " % ", befund.intensitaetFarbe);
+      u_.dictionary.DicText(3081) + ": " + formatNumber(u_.antwort.Intensitaet, "0") + " % ",
+      befund.intensitaetFarbe);
   ansicht_.setWertFarbe(befund.wertFarbe);
   if (befund.ok) aufgabe_.wertUebernehmen(u_.antwort);
   ansicht_.neuZeichnen(true);

@@ -34,24 +34,28 @@ struct ZyklusUmgebung {
   Systemwerte& system;
 };
 
-/// The measuring cycle of every window: polling, keys, info icons, quality check, reconnect, trigger line, starts and
-/// ends of runs, closing in two steps. Driven by timer ticks; exactly one of `tmrPolling` and `tmrJ` runs at a time, and
-/// neither during a transaction. Toolbar clicks that arrive while a transaction waits only set `Tastenzustand`; the next
-/// tick acts. Any run-time failure inside a tick ends in the link recovery.
+/// The measuring cycle of every window: polling, keys, info icons, quality check, reconnect, trigger line,
+/// starts and ends of runs, closing in two steps. Driven by timer ticks; exactly one of `tmrPolling` and
+/// `tmrJ` runs at a time, and neither during a transaction. Toolbar clicks that arrive while a transaction
+/// waits only set `Tastenzustand`; the next tick acts. Any run-time failure inside a tick ends in the link
+/// recovery.
 class Messzyklus {
  public:
-  Messzyklus(const ZyklusUmgebung& umgebung, MSComm& control, Messaufgabe& aufgabe, MessfensterAnsicht& ansicht);
+  Messzyklus(const ZyklusUmgebung& umgebung, MSComm& control, Messaufgabe& aufgabe,
+             MessfensterAnsicht& ansicht);
   ~Messzyklus();
   Messzyklus(const Messzyklus&) = delete;
   Messzyklus& operator=(const Messzyklus&) = delete;
 
-  /// Connects with the head by the record's values; if that fails, tells so and goes on with the simulated head.
+  /// Connects with the head by the record's values; if that fails, tells so and goes on with the simulated
+  /// head.
   void M_KVNOnline();
   /// Goes on with the simulated head; the way back is to close the window and open it anew.
   void M_KVNSimulation();
   const Verbindungsmarken& verbindung() const { return marken_; }
 
-  /// A press of one of the three measuring keys: sets the state to "M", "J" or "Q", and restarts `tmrKeyPressed`.
+  /// A press of one of the three measuring keys: sets the state to "M", "J" or "Q", and restarts
+  /// `tmrKeyPressed`.
   void anfordern(char zustand);
   char Tastenzustand() const { return tastenzustand_; }
   bool laeuft() const { return laeuft_; }
@@ -60,8 +64,8 @@ class Messzyklus {
   /// Ends a running measurement with all that belongs to it; nothing without one.
   void laufBeenden();
 
-  /// Runs `befehl` at once, or, while a tick is under way, as soon as it has ended. For commands that replace or clear
-  /// the data: a reading that is under way must not land in them.
+  /// Runs `befehl` at once, or, while a tick is under way, as soon as it has ended. For commands that replace
+  /// or clear the data: a reading that is under way must not land in them.
   void nachTick(std::function<void()> befehl);
 
   /// The first closing request, after the user's consent: the next tick unloads the window.

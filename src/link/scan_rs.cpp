@@ -44,7 +44,8 @@ bool durchsuchen(SuchUmgebung& u, SuchAnsicht& ansicht, const std::string& setti
 bool ScanRS(SuchUmgebung& u, SuchAnsicht& ansicht) {
   ansicht.beginne(0, 2 * LetzterPort, 1);
   const auto port = static_cast<std::int16_t>(gespeicherteZahl(u.profil, einstellung::ScanRS::PortNr));
-  if (antwortet(u, port, SettingsAusBaudRate(gespeicherteZahl(u.profil, einstellung::ScanRS::BaudRate)))) return true;
+  if (antwortet(u, port, SettingsAusBaudRate(gespeicherteZahl(u.profil, einstellung::ScanRS::BaudRate))))
+    return true;
   return durchsuchen(u, ansicht, Settings115200, 0) || durchsuchen(u, ansicht, Settings19200, LetzterPort);
 }
 

@@ -30,9 +30,9 @@ struct SuchUmgebung {
   KameraAntwort& antwort;
 };
 
-/// Looks for the sensor head: at the stored port and speed first, then on ports 1 to 16 at 115200 and again at 19200.
-/// Stores what it found on the way; a head at the stored values leaves them. True if one answered; the port is closed
-/// afterwards. Takes 1.6 to 51 seconds without a head.
+/// Looks for the sensor head: at the stored port and speed first, then on ports 1 to 16 at 115200 and again
+/// at 19200. Stores what it found on the way; a head at the stored values leaves them. True if one answered;
+/// the port is closed afterwards. Takes 1.6 to 51 seconds without a head.
 bool ScanRS(SuchUmgebung& umgebung, SuchAnsicht& ansicht);
 
 }  // namespace korvin

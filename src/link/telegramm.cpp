@@ -11,7 +11,8 @@
 namespace korvin {
 namespace {
 
-// The preamble ends in the start byte, and the frame adds its own: the doubled start byte is part of the format.
+// The preamble ends in the start byte, and the frame adds its own: the doubled start byte is part of the
+// format.
 constexpr std::string_view praeambel = "\xAA\xAA\xAA\xAA\xAA\xAA\xFF\xFF\x17";
 
 /// Columns `erste` to `letzte`, counted from 1; what lies beyond the body is left out.
@@ -65,7 +66,9 @@ RahmenSuche rahmenSuchen(std::string_view puffer) {
   return {RahmenSuche::Fund::rahmen, std::string(puffer.substr(anfang + 1, ende - anfang - 1))};
 }
 
-bool istAntwortart(char art) { return std::string_view("mjLRT").find(art) != std::string_view::npos; }
+bool istAntwortart(char art) {
+  return std::string_view("mjLRT").find(art) != std::string_view::npos;
+}
 
 bool antwortZerlegen(std::string_view rumpf, KameraAntwort& antwort) {
   antwort.Klasse = spalte(rumpf, 1);

@@ -23,7 +23,8 @@ Meldung keineVerbindung(const std::string& titel, const KameraAntwort& antwort, 
   return {titel, text};
 }
 
-Meldung wiederverbindenGescheitert(const std::string& titel, const KameraAntwort& antwort, Dictionary& dictionary) {
+Meldung wiederverbindenGescheitert(const std::string& titel, const KameraAntwort& antwort,
+                                   Dictionary& dictionary) {
   return {titel, dictionary.DicText(6040) + "  Err: " + formatNumber(antwort.ERR, "0") + NeueZeile +
                      dictionary.DicText(6041)};
 }

@@ -13,6 +13,7 @@ namespace korvin {
 Meldung keineVerbindung(const std::string& titel, const KameraAntwort& antwort, Dictionary& dictionary);
 
 /// The port could not be opened again after a lost link.
-Meldung wiederverbindenGescheitert(const std::string& titel, const KameraAntwort& antwort, Dictionary& dictionary);
+Meldung wiederverbindenGescheitert(const std::string& titel, const KameraAntwort& antwort,
+                                   Dictionary& dictionary);
 
 }  // namespace korvin

@@ -23,12 +23,15 @@ constexpr double letzteSekunde = 86398;
 constexpr std::chrono::milliseconds mitternachtSchlaf{50};
 constexpr std::int16_t inch = 1;
 
-/// A setting as record text. What does not fit the record's character set leaves `sonst`: it was not entered here.
+/// A setting as record text. What does not fit the record's character set leaves `sonst`: it was not entered
+/// here.
 std::string recordText(Profil& profil, const Einstellung& einstellung, const char* sonst) {
   return zuCp1252(profil.wert(einstellung)).value_or(sonst);
 }
 
-bool flag(Profil& profil, const Einstellung& einstellung) { return flagAusText(profil.wert(einstellung)); }
+bool flag(Profil& profil, const Einstellung& einstellung) {
+  return flagAusText(profil.wert(einstellung));
+}
 
 std::int16_t zahl(Profil& profil, const Einstellung& einstellung) {
   return ganzzahlAusText(profil.wert(einstellung));
@@ -134,18 +137,26 @@ LinkAngaben PositionsErfassung::linkAngaben() const {
   return {info.PortNr, std::string(info.Settings.trimmed()), std::string(info.KameraID.trimmed())};
 }
 
-char PositionsErfassung::filter() const { return u_.formpos.Info().Filter.full().front(); }
+char PositionsErfassung::filter() const {
+  return u_.formpos.Info().Filter.full().front();
+}
 
-void PositionsErfassung::setFilter(char stufe) { u_.formpos.Info().Filter = std::string_view(&stufe, 1); }
+void PositionsErfassung::setFilter(char stufe) {
+  u_.formpos.Info().Filter = std::string_view(&stufe, 1);
+}
 
-std::int16_t PositionsErfassung::nkStellen() const { return u_.formpos.Info().NKStellen; }
+std::int16_t PositionsErfassung::nkStellen() const {
+  return u_.formpos.Info().NKStellen;
+}
 
 void PositionsErfassung::laufBeginnt(float sekunden) {
   naechsteMessung_ = static_cast<double>(sekunden);
   laeuftIntervall_ = false;
 }
 
-bool PositionsErfassung::laufFertig() const { return u_.formpos.Info().RestMP == 0; }
+bool PositionsErfassung::laufFertig() const {
+  return u_.formpos.Info().RestMP == 0;
+}
 
 void PositionsErfassung::laufBeendet() {
   u_.formpos.Info().StartAktiv = false;
@@ -179,8 +190,8 @@ LaufSchritt PositionsErfassung::laufSchritt(const std::function<bool()>& unterbr
 
 void PositionsErfassung::grenzeMelden() {
   u_.meldung.MsgTitel = "KORVIN-" + u_.dictionary.DicText(beschreibung().titelText);
-  u_.meldung.MsgText = u_.dictionary.DicText(6019) + " (" + formatNumber(MaxPunkteO, "0") + ") " +
-                       u_.dictionary.DicText(6020);
+  u_.meldung.MsgText =
+      u_.dictionary.DicText(6019) + " (" + formatNumber(MaxPunkteO, "0") + ") " + u_.dictionary.DicText(6020);
   u_.messages.beep();
   u_.messages.show(u_.meldung, MessageIcon::warning, MessageButtons::ok);
 }

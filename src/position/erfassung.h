@@ -26,8 +26,9 @@ struct ErfassungUmgebung {
   FORMPOS& formpos;
 };
 
-/// Taking the points of a position measurement: what the cycle leaves to this kind, and the commands of its window on
-/// the working record. Readings are stored in the unit that is in force, with the sign of Y inverted.
+/// Taking the points of a position measurement: what the cycle leaves to this kind, and the commands of its
+/// window on the working record. Readings are stored in the unit that is in force, with the sign of Y
+/// inverted.
 class PositionsErfassung : public Messaufgabe {
  public:
   explicit PositionsErfassung(const ErfassungUmgebung& umgebung) : u_(umgebung) {}
@@ -43,8 +44,8 @@ class PositionsErfassung : public Messaufgabe {
 
   // ---- Commands of the window ----
 
-  /// Takes the point under the cursor as offset, or drops the offset. False, and nothing changed, if there is no point
-  /// to take.
+  /// Takes the point under the cursor as offset, or drops the offset. False, and nothing changed, if there is
+  /// no point to take.
   bool offsetSchalten(bool an);
   /// Moves the cursor by `schritt` points, within the points there are.
   void cursorBewegen(int schritt);

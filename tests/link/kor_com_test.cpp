@@ -92,7 +92,9 @@ TEST_F(KorComTest, HeadOfModulus95TakesTwoAttemptsOnceAndOneLater) {
 
 TEST_F(KorComTest, ThirdAttemptReturnsToModulus223) {
   open();
-  head.behaviour = [n = 0](char) mutable { return ++n == 1 ? std::string{} : answerFrame(answerBody('T'), 223); };
+  head.behaviour = [n = 0](char) mutable {
+    return ++n == 1 ? std::string{} : answerFrame(answerBody('T'), 223);
+  };
   // The first request stays unanswered; the second goes out with modulus 95, which this head ignores.
   EXPECT_TRUE(ask());
   EXPECT_EQ(head.sent.size(), 3U);
@@ -242,7 +244,7 @@ TEST_F(KorComTest, FilterSetsLimitsAndText) {
     char level;
     const char* text;
     int single, quick;
-  } rows[] = {{'0', "D3200", 2, 2}, {'1', "D3201", 3, 2},  {'2', "D3202", 5, 3},
+  } rows[] = {{'0', "D3200", 2, 2},  {'1', "D3201", 3, 2},  {'2', "D3202", 5, 3},
               {'3', "D3203", 10, 4}, {'4', "D3204", 20, 5}, {'5', "???", 5, 3}};
   for (const auto& row : rows) {
     EXPECT_EQ(korCom.FilterText(row.level, texts), row.text);

@@ -24,9 +24,13 @@ TEST(Quality, EdgeOfTheSmallHeadIsInRange) {
   EXPECT_EQ(check(reading(250000 + 71000, 250000), 0, 7.1).wertFarbe, FarbeGelb);
 }
 
-TEST(Quality, OutOfRangeIsStillAccepted) { EXPECT_TRUE(check(reading(350000, 250000)).ok); }
+TEST(Quality, OutOfRangeIsStillAccepted) {
+  EXPECT_TRUE(check(reading(350000, 250000)).ok);
+}
 
-TEST(Quality, ValuesAreWhiteAtRest) { EXPECT_EQ(check(reading(250000, 250000), 0, 2.1, true).wertFarbe, FarbeWeiss); }
+TEST(Quality, ValuesAreWhiteAtRest) {
+  EXPECT_EQ(check(reading(250000, 250000), 0, 2.1, true).wertFarbe, FarbeWeiss);
+}
 
 TEST(Quality, OnlyIntensitiesFrom10To98AreAccepted) {
   EXPECT_FALSE(check(reading(250000, 250000, 9)).ok);
@@ -43,7 +47,7 @@ TEST(Quality, IntensityColours) {
   const struct {
     int percent;
     Farbe colour;
-  } rows[] = {{0, FarbeRot},     {39, FarbeRot},   {40, FarbeOrange}, {59, FarbeOrange},
+  } rows[] = {{0, FarbeRot},    {39, FarbeRot},   {40, FarbeOrange}, {59, FarbeOrange},
               {60, FarbeGruen}, {97, FarbeGruen}, {98, FarbeRot},    {99, FarbeRot}};
   for (const auto& row : rows) {
     EXPECT_EQ(check(reading(250000, 250000, row.percent)).intensitaetFarbe, row.colour) << row.percent;

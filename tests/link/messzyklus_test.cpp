@@ -59,8 +59,7 @@ TEST_F(MesszyklusTest, MissingPortTellsSoAndFallsBackToTheSimulatedHead) {
   goOnline();
   ASSERT_EQ(world.messages.shown.size(), 1U);
   EXPECT_EQ(world.messages.shown[0].title, "KORVIN-D5502");
-  EXPECT_EQ(world.messages.shown[0].text,
-            "D6011\r\n\r\nCom: 3;  D6024\r\nErr:32001\r\n\r\nD6012\r\n");
+  EXPECT_EQ(world.messages.shown[0].text, "D6011\r\n\r\nCom: 3;  D6024\r\nErr:32001\r\n\r\nD6012\r\n");
   EXPECT_EQ(world.messages.beeps, 1);
   EXPECT_TRUE(view.link.simulation);
   EXPECT_FALSE(view.link.online);
@@ -170,7 +169,9 @@ TEST_F(MesszyklusTest, UnexpectedKindInASingleMeasurementShowsTheQuestion) {
 TEST_F(MesszyklusTest, FailedSingleMeasurementLeavesHourglassAndKey) {
   goOnline();
   run(0.1);
-  world.head.behaviour = [](char command) { return command == 'M' ? std::string{} : answerFrame(answerBody('T')); };
+  world.head.behaviour = [](char command) {
+    return command == 'M' ? std::string{} : answerFrame(answerBody('T'));
+  };
   cycle.anfordern('M');
   run(25);
   EXPECT_TRUE(view.hourglass);
@@ -278,9 +279,7 @@ TEST_F(MesszyklusTest, HeadsRunningKeyLetsAFastRequestStand) {
 }
 
 TEST_F(MesszyklusTest, FastRunSendsTheFastLevelAndRestoresTheOldOne) {
-  const struct {
-    char preset, fast;
-  } rows[] = {{'0', '5'}, {'1', '6'}, {'2', '7'}, {'3', '7'}, {'4', '7'}};
+  const struct { char preset, fast; } rows[] = {{'0', '5'}, {'1', '6'}, {'2', '7'}, {'3', '7'}, {'4', '7'}};
   goOnline();
   for (const auto& row : rows) {
     world.system.FilterVorgabe = row.preset;
@@ -429,9 +428,10 @@ TEST_F(MesszyklusTest, ServiceLineHasBodyAndCountersInOrder) {
   world.answer.COM = 4;
   world.answer.ERR = 32001;
   world.head.receive("x");
-  EXPECT_EQ(view.serviceLines[0], vonCp1252(body) +
-                                      "  \u00A6  ICA:   1  \u00A6  ICM:   22  \u00A6  BCC:   3  \u00A6  COM:   4"
-                                      "  \u00A6  ERR:   32001");
+  EXPECT_EQ(view.serviceLines[0],
+            vonCp1252(body) +
+                "  \u00A6  ICA:   1  \u00A6  ICM:   22  \u00A6  BCC:   3  \u00A6  COM:   4"
+                "  \u00A6  ERR:   32001");
 }
 
 // ---- Lost link ----

@@ -32,7 +32,9 @@ class ScanTest : public ::testing::Test {
   std::string stored(const char* key) { return world.profil.wert("KorInfo", key, ""); }
   /// Only ports 1 to `last` exist.
   void portsUpTo(std::int16_t last) {
-    world.head.openErrorOfPort = [last](std::int16_t port) { return port >= 1 && port <= last ? 0 : CommPortFehlt; };
+    world.head.openErrorOfPort = [last](std::int16_t port) {
+      return port >= 1 && port <= last ? 0 : CommPortFehlt;
+    };
   }
 
   test::CycleWorld world;

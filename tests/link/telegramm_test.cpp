@@ -15,8 +15,8 @@ using test::answerFrame;
 TEST(Telegramm, RequestIsSeventeenBytesWithTheStartByteTwice) {
   const std::string frame = rahmenBilden("02--M", Modul223);
   const int sum = '0' + '2' + '-' + '-' + 'M';
-  const std::string expected =
-      std::string("\xAA\xAA\xAA\xAA\xAA\xAA\xFF\xFF\x17\x17") + "02--M" + static_cast<char>(sum % 223 + 32) + "\x1B";
+  const std::string expected = std::string("\xAA\xAA\xAA\xAA\xAA\xAA\xFF\xFF\x17\x17") + "02--M" +
+                               static_cast<char>(sum % 223 + 32) + "\x1B";
   EXPECT_EQ(frame, expected);
   EXPECT_EQ(frame.size(), 17U);
 }
@@ -36,7 +36,9 @@ TEST(Telegramm, SumBeyondSixteenBitsIsAnError) {
   EXPECT_THROW(PruefzeichenBilden(std::string(129, '\xFF'), Modul223), std::overflow_error);
 }
 
-TEST(Telegramm, EmptyBodyFailsTheCheck) { EXPECT_FALSE(PruefzeichenPruefen("", Modul223)); }
+TEST(Telegramm, EmptyBodyFailsTheCheck) {
+  EXPECT_FALSE(PruefzeichenPruefen("", Modul223));
+}
 
 TEST(Telegramm, EverySingleBitFlipFailsTheCheckOrIsSeen) {
   const std::string frame = answerFrame(answerBody('m', 'K', 251234, 248765, 77));

@@ -29,8 +29,8 @@ class ErfassungTest : public ::testing::Test {
 
   test::CycleWorld world;
   FORMPOS formpos;
-  PositionsErfassung task{{world.clock, world.clock, world.messages, world.dictionary, world.profil, world.meldung,
-                           world.system, formpos}};
+  PositionsErfassung task{{world.clock, world.clock, world.messages, world.dictionary, world.profil,
+                           world.meldung, world.system, formpos}};
   test::RecordingView view;
   Messzyklus cycle{world.surroundings(), world.head, task, view};
 };
@@ -63,7 +63,9 @@ TEST_F(ErfassungTest, NewMeasurementReadsTheStoredSettings) {
   p.ProfilSchreiben("", "MessInfo_O", "Montage", "3");
   p.ProfilSchreiben("", "DruckInfo_O", "CheckXTabelle", "-1");
   task.neueMessung();
-  EXPECT_EQ(info().FirmaName.trimmed(), "Pr\xFC" "fstelle");
+  EXPECT_EQ(info().FirmaName.trimmed(),
+            "Pr\xFC"
+            "fstelle");
   EXPECT_EQ(info().NKStellen, 1);
   EXPECT_EQ(info().PortNr, 12);
   EXPECT_EQ(info().Settings.trimmed(), "19200,N,8,1");

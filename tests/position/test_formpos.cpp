@@ -83,8 +83,8 @@ TEST(Formpos, ClearingEmptiesPointsStatisticsAndSwitches) {
   EXPECT_EQ(formpos.punkte().X().at(0), 0);
   EXPECT_EQ(formpos.punkte().X().at(1), Leerwert);
   EXPECT_EQ(formpos.punkte().T().at(29999), Leerwert);
-  for (const double value : {formpos.arbeit().Y.Maximum, formpos.arbeit().Y.Minimum, formpos.arbeit().Y.Mittel,
-                             formpos.arbeit().Y.Streuung}) {
+  for (const double value : {formpos.arbeit().Y.Maximum, formpos.arbeit().Y.Minimum,
+                             formpos.arbeit().Y.Mittel, formpos.arbeit().Y.Streuung}) {
     EXPECT_EQ(value, Leerwert);
   }
   EXPECT_EQ(formpos.arbeit().Y.Summe, 0);

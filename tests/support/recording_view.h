@@ -45,7 +45,9 @@ class RecordingView : public MessfensterAnsicht {
     if (onUnload) onUnload();
   }
   /// True if `key` was raised since the last `icons.clear()`.
-  bool raised(const std::string& key) const { return std::find(icons.begin(), icons.end(), key) != icons.end(); }
+  bool raised(const std::string& key) const {
+    return std::find(icons.begin(), icons.end(), key) != icons.end();
+  }
 
   std::vector<Farbe> leds;
   std::vector<std::string> icons;

@@ -11,7 +11,8 @@
 
 namespace korvin::test {
 
-/// The body of an answer without its check character: class, second character, key, status, kind, and the numbers.
+/// The body of an answer without its check character: class, second character, key, status, kind, and the
+/// numbers.
 std::string answerBody(char kind, char key = 'K', int x = 250000, int y = 250000, int intensity = 80,
                        char headClass = '1', char status = ' ');
 /// A whole answer frame.
@@ -34,7 +35,10 @@ class ScriptedHead : public MSComm {
   void Output(const std::string& bytes) override;
   int CommEvent() const override { return commEvent_; }
   bool DSRHolding() override { return dsr_; }
-  void setRTSEnable(bool enable) override { rts_ = enable; rtsHistory.push_back(enable); }
+  void setRTSEnable(bool enable) override {
+    rts_ = enable;
+    rtsHistory.push_back(enable);
+  }
   bool RTSEnable() const override { return rts_; }
 
   /// Bytes arrive now.
@@ -44,17 +48,18 @@ class ScriptedHead : public MSComm {
   /// The next answers of this command letter, before the standing behaviour.
   void nextAnswer(const std::string& frame) { scripted.push_back(frame); }
 
-  /// Makes the answer to a command letter; an empty text is silence. Default: a well-behaved head at the centre.
+  /// Makes the answer to a command letter; an empty text is silence. Default: a well-behaved head at the
+  /// centre.
   std::function<std::string(char command)> behaviour;
-  std::deque<std::string> scripted;  ///< answers used first, whatever the command
-  double delay = 0.01;               ///< seconds until an answer arrives
-  int modulus = 223;                 ///< the head is silent to requests with another check character
-  std::string speed;                 ///< if not empty, the head answers only at these settings
+  std::deque<std::string> scripted;      ///< answers used first, whatever the command
+  double delay = 0.01;                   ///< seconds until an answer arrives
+  int modulus = 223;                     ///< the head is silent to requests with another check character
+  std::string speed;                     ///< if not empty, the head answers only at these settings
   std::optional<std::int16_t> onlyPort;  ///< if set, the head is behind this port
-  std::int32_t openError = 0;        ///< if not 0, opening fails with it
+  std::int32_t openError = 0;            ///< if not 0, opening fails with it
   std::function<std::int32_t(std::int16_t port)> openErrorOfPort;
-  bool broken = false;               ///< every read and write throws
-  char key = 'K';                    ///< key that the default behaviour reports, for one answer
+  bool broken = false;  ///< every read and write throws
+  char key = 'K';       ///< key that the default behaviour reports, for one answer
   int x = 250000, y = 250000, intensity = 80;
   char status = ' ';
 
