@@ -350,6 +350,20 @@ TEST_F(MesszyklusTest, RunRestoresTheIntervalsOfItsTimers) {
   run(0.1);
   EXPECT_EQ(cycle.tmrJ().interval(), 15);
   EXPECT_EQ(cycle.tmrKeyPressed().interval(), 500);
+  cycle.tmrKeyPressed().setInterval(2000);
+  cycle.laufBeenden();
+  EXPECT_EQ(cycle.tmrKeyPressed().interval(), 500);
+}
+
+TEST_F(MesszyklusTest, ValuesOfARunAreWhiteAndOfASingleMeasurementYellow) {
+  startRun();
+  run(0.2);
+  EXPECT_EQ(view.valueColour, FarbeWeiss);
+  task.onReading = [this] { EXPECT_EQ(view.valueColour, FarbeGelb); };
+  cycle.laufBeenden();
+  cycle.anfordern('M');
+  run(0.3);
+  EXPECT_EQ(view.valueColour, FarbeGelb);
 }
 
 // ---- Quality ----
@@ -540,6 +554,17 @@ TEST_F(MesszyklusTest, ClosingDuringARunEndsAtTheNextTick) {
   run(0.05);
   EXPECT_EQ(view.unloads, 1);
   EXPECT_LE(task.readings.size(), taken + 1);
+}
+
+TEST_F(MesszyklusTest, SecondClosingRequestStopsAllTimers) {
+  startRun();
+  cycle.anfordern('M');
+  cycle.tmrInfoToggle().setEnabled(true);
+  cycle.beenden();
+  EXPECT_FALSE(cycle.tmrPolling().enabled());
+  EXPECT_FALSE(cycle.tmrJ().enabled());
+  EXPECT_FALSE(cycle.tmrKeyPressed().enabled());
+  EXPECT_FALSE(cycle.tmrInfoToggle().enabled());
 }
 
 TEST_F(MesszyklusTest, ClosingDuringTheReconnectComesThrough) {

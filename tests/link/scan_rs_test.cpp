@@ -98,7 +98,8 @@ TEST_F(ScanTest, MissingPortsFailAtOnceAndNothingIsStored) {
   EXPECT_EQ(stored("PortNr"), "2");
   EXPECT_EQ(stored("BaudRate"), "0");
   EXPECT_EQ(bar.limits, (std::vector<int>{0, 32, 1}));
-  EXPECT_EQ(bar.values.size(), 32U);
+  ASSERT_EQ(bar.values.size(), 32U);
+  for (int i = 0; i < 32; ++i) EXPECT_EQ(bar.values[static_cast<std::size_t>(i)], i + 1);
 }
 
 TEST_F(ScanTest, SilentPortsTakeThreeAttemptsEach) {

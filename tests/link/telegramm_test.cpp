@@ -74,7 +74,7 @@ TEST(Telegramm, EndWithoutStartIsThrownAway) {
 
 TEST(Telegramm, ColumnsOfAnAnswer) {
   KameraAntwort antwort;
-  ASSERT_TRUE(antwortZerlegen("2xLBm 251000 249000  1.5  64#", antwort));
+  ASSERT_TRUE(antwortZerlegen("2xLBm?251000?249000?123.5?64#", antwort));
   EXPECT_EQ(antwort.Klasse, '2');
   EXPECT_EQ(antwort.Zeichen2, 'x');
   EXPECT_EQ(antwort.Taste, 'L');
@@ -82,7 +82,7 @@ TEST(Telegramm, ColumnsOfAnAnswer) {
   EXPECT_EQ(antwort.Antwortart, 'm');
   EXPECT_EQ(antwort.RohX, 251000);
   EXPECT_EQ(antwort.RohY, 249000);
-  EXPECT_EQ(antwort.Wert3, 1.5);
+  EXPECT_EQ(antwort.Wert3, 123.5);
   EXPECT_EQ(antwort.Intensitaet, 64);
 }
 

@@ -198,9 +198,9 @@ TEST_F(ErfassungTest, MidnightWaitLetsTheWindowClose) {
 }
 
 TEST_F(ErfassungTest, FastRunKeepsFurtherAwayFromMidnight) {
-  // 86398 - 2 x 7 is 86384: at 86386 a fast run's second point has to wait, a normal run's (2 x 2) has not.
+  // 86398 - 2 x 7 is 86384: at 86393 a fast run's second point has to wait, a normal run's (2 x 2) has not.
   for (const char key : {'Q', 'J'}) {
-    world.clock.setNow(45000 + 86386.0 / 86400.0);
+    world.clock.setNow(45000 + 86393.0 / 86400.0);
     task.neueMessung();
     info().StartAktiv = true;
     info().StartZeit = world.clock.now();
@@ -254,7 +254,14 @@ TEST_F(ErfassungTest, OffsetWithoutAPointIsRefused) {
 TEST_F(ErfassungTest, CursorStaysWithinThePoints) {
   task.cursorBewegen(1);
   EXPECT_EQ(info().MPAktuell, 0);
-  info().RestMP = 3;
+  info().RestMP = 1;
+  startRun();
+  run(1);
+  EXPECT_EQ(info().MPVorher, 0);
+  task.cursorBewegen(1);
+  EXPECT_EQ(info().MPAktuell, 1);
+  EXPECT_EQ(info().MPVorher, 1);
+  info().RestMP = 2;
   startRun();
   run(1);
   ASSERT_EQ(info().MPAktuell, 3);

@@ -104,6 +104,18 @@ TEST(Formpos, StatisticsAnewUseThePresentOffset) {
   EXPECT_EQ(formpos.arbeit().Y.Summe, 30);
 }
 
+TEST(Formpos, ExtremesOfOnePointAreThatPointLessTheOffset) {
+  FORMPOS formpos = started();
+  take(formpos, 5, -5);
+  formpos.arbeit().X.Offset = 4;
+  formpos.arbeit().Y.Offset = 4;
+  formpos.statistikNeu();
+  EXPECT_EQ(formpos.arbeit().X.Maximum, 1);
+  EXPECT_EQ(formpos.arbeit().X.Minimum, 1);
+  EXPECT_EQ(formpos.arbeit().Y.Maximum, -9);
+  EXPECT_EQ(formpos.arbeit().Y.Minimum, -9);
+}
+
 TEST(Formpos, StatisticsOfNoPointsAreEmpty) {
   FORMPOS formpos = started();
   formpos.arbeit().X.Summe = 7;
