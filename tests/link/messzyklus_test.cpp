@@ -95,11 +95,13 @@ TEST_F(MesszyklusTest, IndicatorBlinksGreenOnlineAndRedInSimulation) {
 
 TEST_F(MesszyklusTest, NoTransactionOverlapsAnother) {
   goOnline();
-  int depth = 0;
-  int deepest = 0;
+  world.head.delay = 0.3;
+  bool open = false;
+  bool overlapped = false;
   world.head.behaviour = [&](char) {
-    deepest = std::max(deepest, ++depth);
-    world.clock.after(0.005, [&] { --depth; });
+    overlapped = overlapped || open;
+    open = true;
+    world.clock.after(0.29, [&] { open = false; });
     return answerFrame(answerBody('T'));
   };
   // Whatever starts the timer during a transaction must not start a second one.
@@ -107,7 +109,8 @@ TEST_F(MesszyklusTest, NoTransactionOverlapsAnother) {
     world.clock.after(0.05 * i, [&] { cycle.tmrPolling().setEnabled(true); });
   }
   run(2);
-  EXPECT_EQ(deepest, 1);
+  EXPECT_FALSE(overlapped);
+  EXPECT_GE(world.head.sent.size(), 5U);
 }
 
 TEST_F(MesszyklusTest, CursorKeysOfTheHeadPressTheToolbar) {
@@ -547,6 +550,19 @@ TEST_F(MesszyklusTest, ClosingTakesTwoSteps) {
   EXPECT_EQ(view.unloads, 1);
 }
 
+TEST_F(MesszyklusTest, ClosingComesThroughWithoutARunningTimer) {
+  cycle.schliessenAnfordern();
+  run(0.1);
+  EXPECT_EQ(view.unloads, 1);
+}
+
+TEST_F(MesszyklusTest, ClosingStartsNoSecondTimer) {
+  startRun();
+  ASSERT_TRUE(cycle.tmrJ().enabled());
+  cycle.schliessenAnfordern();
+  EXPECT_FALSE(cycle.tmrPolling().enabled());
+}
+
 TEST_F(MesszyklusTest, ClosingDuringARunEndsAtTheNextTick) {
   startRun();
   const std::size_t taken = task.readings.size();
@@ -621,8 +637,11 @@ TEST_F(MesszyklusTest, CommandsWaitForTheEndOfATick) {
 }
 
 TEST_F(MesszyklusTest, SwitchingToSimulationDuringATransactionStartsNoSecondOne) {
+  world.head.delay = 0.3;
   goOnline();
-  world.clock.after(0.035, [this] { cycle.M_KVNSimulation(); });
+  world.clock.after(0.05, [this] { cycle.M_KVNSimulation(); });
+  run(0.2);
+  EXPECT_EQ(world.answer.Status, ' ') << "the answer of the real head, not one made up meanwhile";
   run(2);
   EXPECT_TRUE(cycle.tmrPolling().enabled() || cycle.imTick());
   EXPECT_TRUE(view.link.simulation);

@@ -195,6 +195,7 @@ TEST_F(ErfassungTest, MidnightWaitLetsTheWindowClose) {
   run(3);
   EXPECT_EQ(view.unloads, 1);
   EXPECT_LT(world.clock.elapsed(), 4);
+  EXPECT_EQ(count('M'), 1U);
 }
 
 TEST_F(ErfassungTest, FastRunKeepsFurtherAwayFromMidnight) {
