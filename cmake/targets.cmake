@@ -42,5 +42,6 @@ function(korvin_tests name)
   target_compile_definitions(test_${name} PRIVATE KORVIN_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/data"
                              KORVIN_BIN="${CMAKE_BINARY_DIR}/bin" KORVIN_SOURCE="${CMAKE_SOURCE_DIR}")
   target_compile_options(test_${name} PRIVATE -Wno-null-dereference)
+  add_dependencies(test_${name} dictionary)
   gtest_discover_tests(test_${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300 ENVIRONMENT "${ARG_ENVIRONMENT}")
 endfunction()
