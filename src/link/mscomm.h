@@ -10,7 +10,8 @@ namespace korvin {
 /// A run-time error of the serial control.
 class CommError : public std::runtime_error {
  public:
-  CommError(std::int32_t errorNumber, const std::string& text) : std::runtime_error(text), number(errorNumber) {}
+  CommError(std::int32_t errorNumber, const std::string& text)
+      : std::runtime_error(text), number(errorNumber) {}
 
   /// 32000: the port belongs to another program. 32001: the port does not exist. Others: the system's number.
   std::int32_t number;
@@ -19,8 +20,9 @@ class CommError : public std::runtime_error {
 inline constexpr std::int32_t CommPortBelegt = 32000;
 inline constexpr std::int32_t CommPortFehlt = 32001;
 
-/// The serial control of a window. A port: the real serial line in the program, a scripted head in tests. All calls may
-/// throw `CommError`; a line that was lost closes the control once, after which `setPortOpen(true)` may be tried anew.
+/// The serial control of a window. A port: the real serial line in the program, a scripted head in tests. All
+/// calls may throw `CommError`; a line that was lost closes the control once, after which `setPortOpen(true)`
+/// may be tried anew.
 class MSComm {
  public:
   virtual ~MSComm() = default;

@@ -83,6 +83,7 @@ TEST(Pfade, SplitsAtTheLastSeparator) {
   expectSplit("folder/A.O", "folder", "A.O");
   expectSplit("/A.O", "/", "A.O");
   expectSplit("folder/", "folder", "");
+  expectSplit("folder//A.O", "folder/", "A.O");
   expectSplit("A.O", "", "A.O");
   expectSplit("", "", "");
   expectSplit("/Mess Ünder/測.O", "/Mess Ünder", "測.O");
@@ -104,6 +105,7 @@ TEST(DateiDialog, AppendsTheExtensionUnlessTheNameHasIt) {
   EXPECT_EQ(vervollstaendigterName("/tmp/a.txt", positionFilter), "/tmp/a.txt.O");
   EXPECT_EQ(vervollstaendigterName("/tmp/foO", positionFilter), "/tmp/foO.O");
   EXPECT_EQ(vervollstaendigterName("/tmp.O/a", positionFilter), "/tmp.O/a.O");
+  EXPECT_EQ(vervollstaendigterName(std::string_view("a.O").substr(2), positionFilter), "O.O");
   EXPECT_EQ(vervollstaendigterName("a", "Position(*.O)|"), "a.O");
   EXPECT_EQ(vervollstaendigterName("a", "*.O"), "a.O");
   EXPECT_EQ(vervollstaendigterName("", positionFilter), "");

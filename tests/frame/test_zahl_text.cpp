@@ -69,6 +69,7 @@ TEST(ZahlText, NumbersOutOfRange) {
   EXPECT_EQ(zahlAusText("1e309"), infinity);
   EXPECT_EQ(zahlAusText("-1e309"), -infinity);
   EXPECT_EQ(zahlAusText("1e99999999999999999999"), infinity);
+  EXPECT_EQ(zahlAusText("1e4294967297"), infinity) << "1 in 32 bits";
   EXPECT_EQ(zahlAusText("1e-400"), 0);
   EXPECT_EQ(zahlAusText("1e-99999999999999999999"), 0);
   EXPECT_EQ(zahlAusText("0e999"), 0);

@@ -43,9 +43,13 @@ float TestClock::secondsOfDay() const {
   return static_cast<float>((days - std::floor(days)) * secondsPerDay);
 }
 
-double TestClock::now() const { return start_ + elapsed_ / secondsPerDay; }
+double TestClock::now() const {
+  return start_ + elapsed_ / secondsPerDay;
+}
 
-void TestClock::setNow(double days) { start_ = days - elapsed_ / secondsPerDay; }
+void TestClock::setNow(double days) {
+  start_ = days - elapsed_ / secondsPerDay;
+}
 
 double TestClock::nextDue() const {
   double next = scheduled_.empty() ? std::numeric_limits<double>::max() : scheduled_.begin()->first;
@@ -82,7 +86,9 @@ void TestClock::waitForEvents(std::chrono::milliseconds longest) {
   runDue();
 }
 
-std::unique_ptr<Timer> TestClock::create() { return std::make_unique<ClockTimer>(*this); }
+std::unique_ptr<Timer> TestClock::create() {
+  return std::make_unique<ClockTimer>(*this);
+}
 
 void TestClock::advance(double seconds) {
   const double end = elapsed_ + seconds;

@@ -11,8 +11,8 @@
 
 namespace korvin::test {
 
-/// A day of the tests that time moves on only when the code waits. It is clock, event queue and source of timers in
-/// one, so that a night of measuring takes milliseconds.
+/// A day of the tests that time moves on only when the code waits. It is clock, event queue and source of
+/// timers in one, so that a night of measuring takes milliseconds.
 class TestClock : public Clock, public EventPump, public TimerSource {
  public:
   /// Starts at `startDays` (days since 30 December 1899); 45000.5 is noon.

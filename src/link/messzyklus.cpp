@@ -1,0 +1,383 @@
+#include "link/messzyklus.h"
+
+#include <cmath>
+#include <exception>
+#include <utility>
+
+#include "frame/number_format.h"
+#include "frame/zahl_text.h"
+#include "link/telegramm.h"
+#include "link/verbindungsmeldung.h"
+
+namespace korvin {
+namespace {
+
+constexpr const char* TextNurSimulation = "Simulation only";
+constexpr double PauseWiederverbinden = 1.0;
+
+/// The level of a fast run: '5' to '7', from the level that the user has set.
+char schnelleStufe(char vorgabe) {
+  const int stufe = vorgabe >= '0' && vorgabe <= '9' ? vorgabe - '0' : 0;
+  return stufe < 3 ? static_cast<char>('0' + stufe + 5) : '7';
+}
+
+}  // namespace
+
+Messzyklus::Messzyklus(const ZyklusUmgebung& umgebung, MSComm& control, Messaufgabe& aufgabe,
+                       MessfensterAnsicht& ansicht)
+    : u_(umgebung),
+      control_(control),
+      aufgabe_(aufgabe),
+      ansicht_(ansicht),
+      tmrPolling_(umgebung.timers.create()),
+      tmrJ_(umgebung.timers.create()),
+      tmrKeyPressed_(umgebung.timers.create()),
+      tmrInfoToggle_(umgebung.timers.create()) {
+  const ZyklusBeschreibung& b = aufgabe_.beschreibung();
+  tmrPolling_->setInterval(b.pollingMs);
+  tmrJ_->setInterval(b.jMs);
+  tmrKeyPressed_->setInterval(b.keyPressedMs);
+  tmrInfoToggle_->setInterval(InfoToggleMs);
+  tmrPolling_->onTick = [this] { tick(&Messzyklus::tickPolling); };
+  tmrJ_->onTick = [this] { tick(&Messzyklus::tickJ); };
+  tmrKeyPressed_->onTick = [this] { tickKeyPressed(); };
+  tmrInfoToggle_->onTick = [this] { tickInfoToggle(); };
+  control_.OnComm = [this] { onComm(); };
+  u_.korCom.aufgeben = [this] { return schliessen_; };
+}
+
+Messzyklus::~Messzyklus() {
+  control_.OnComm = nullptr;
+  u_.korCom.aufgeben = nullptr;
+}
+
+// ---- Connecting ----
+
+void Messzyklus::M_KVNOnline() {
+  const LinkAngaben angaben = aufgabe_.linkAngaben();
+  if (!u_.korCom.ComOeffnen(control_, angaben.port, angaben.settings, angaben.id, u_.antwort)) {
+    u_.meldung = keineVerbindung(titel(), u_.antwort, u_.dictionary);
+    u_.messages.beep();
+    u_.messages.show(u_.meldung, MessageIcon::warning, MessageButtons::ok);
+    M_KVNSimulation();
+    return;
+  }
+  marken_ = {true, true, false};
+  ansicht_.zeigeVerbindung(marken_);
+  u_.system.LinkFarbe = FarbeGruen;
+  tmrPolling_->setEnabled(true);
+}
+
+void Messzyklus::M_KVNSimulation() {
+  u_.system.LinkFarbe = FarbeRot;
+  marken_ = {false, false, true};
+  ansicht_.zeigeVerbindung(marken_);
+  tmrPolling_->setEnabled(!laeuft_);
+  u_.korCom.setSensorHalbbereich(HalbbereichKlein);
+  ansicht_.zeigeNurSimulation(TextNurSimulation, FarbeRot);
+}
+
+std::string Messzyklus::titel() {
+  return "KORVIN-" + u_.dictionary.DicText(aufgabe_.beschreibung().titelText);
+}
+
+// ---- Requests from the window ----
+
+void Messzyklus::anfordern(char zustand) {
+  tastenzustand_ = zustand;
+  tmrKeyPressed_->restart();
+}
+
+void Messzyklus::nachTick(std::function<void()> befehl) {
+  if (imTick_) {
+    wartendeBefehle_.push_back(std::move(befehl));
+  } else {
+    befehl();
+  }
+}
+
+void Messzyklus::schliessenAnfordern() {
+  schliessen_ = true;
+  ansicht_.zeigeSanduhr(true);
+  tmrKeyPressed_->setEnabled(false);
+  // Without a running timer no tick would come to unload the window.
+  if (!imTick_ && !tmrJ_->enabled()) tmrPolling_->setEnabled(true);
+}
+
+void Messzyklus::beenden() {
+  tmrPolling_->setEnabled(false);
+  tmrJ_->setEnabled(false);
+  tmrKeyPressed_->setEnabled(false);
+  tmrInfoToggle_->setEnabled(false);
+  u_.korCom.ComSchliessen(control_);
+  ansicht_.zeigeSanduhr(false);
+}
+
+// ---- Small timers and the serial event ----
+
+void Messzyklus::tickKeyPressed() {
+  tastenzustand_ = 'K';
+  tmrKeyPressed_->setEnabled(false);
+}
+
+void Messzyklus::tickInfoToggle() {
+  // A single event shows the icon for one interval, repeated ones keep it up; the timer goes on.
+  ansicht_.zeigeInfo(infoFrisch_);
+  infoFrisch_ = false;
+}
+
+void Messzyklus::onComm() {
+  if (control_.CommEvent() == MSComm::comEvDSR) {
+    const bool ausgeloest = control_.DSRHolding();
+    control_.setRTSEnable(false);
+    // The trigger line acts like the head's measuring key.
+    if (ausgeloest) anfordern('S');
+  }
+  ansicht_.zeigeServiceZeile(0, serviceZeile(u_.antwort));
+}
+
+void Messzyklus::icon(const char* schluessel) {
+  infoFrisch_ = true;
+  ansicht_.setInfoBild(schluessel);
+  tmrInfoToggle_->setEnabled(true);
+}
+
+// ---- Ticks ----
+
+void Messzyklus::tick(void (Messzyklus::*arbeit)()) {
+  // Whatever starts a timer while a transaction waits must not start a second transaction.
+  if (imTick_ || entladen_) return;
+  imTick_ = true;
+  const auto verlassen = [this] { imTick_ = false; };
+  const struct Waechter {
+    const std::function<void()> ende;
+    ~Waechter() { ende(); }
+  } waechter{verlassen};
+  try {
+    (this->*arbeit)();
+  } catch (const std::exception&) {
+    verbindungVerloren();
+  }
+  if (entladen_) return;
+  imTick_ = false;
+  for (const auto& befehl : std::exchange(wartendeBefehle_, {})) befehl();
+}
+
+bool Messzyklus::tickBeginnt() {
+  led_ = led_ != FarbeGrau ? FarbeGrau : u_.system.LinkFarbe;
+  ansicht_.zeigeLed(led_);
+  tmrPolling_->setEnabled(false);
+  tmrJ_->setEnabled(false);
+  if (!schliessen_) return false;
+  u_.messages.beep();
+  entladen_ = true;
+  ansicht_.entladen();
+  return true;
+}
+
+bool Messzyklus::frage(char befehl, double limit) {
+  return u_.korCom.KameraAbfrage(control_, anfrage(u_.antwort, aufgabe_.filter(), befehl), limit, u_.antwort,
+                                 marken_.online);
+}
+
+void Messzyklus::tickPolling() {
+  if (tickBeginnt()) return;
+  if (!frage('T', PollLimit)) {
+    verbindungVerloren();
+    return;
+  }
+  tasteAuswerten();
+  zustandAuswerten();
+}
+
+void Messzyklus::tasteAuswerten() {
+  const ZyklusBeschreibung& b = aufgabe_.beschreibung();
+  const bool gesperrt = aufgabe_.tastenGesperrt();
+  switch (u_.antwort.Taste) {
+    case 'L':
+      if (!gesperrt) ansicht_.drueckeTaste(b.tasteZurueck);
+      break;
+    case 'R':
+      if (!gesperrt) ansicht_.drueckeTaste(b.tasteVor);
+      break;
+    case 'J':
+      if (!gesperrt) anfordern(tastenzustand_ == 'Q' ? 'Q' : 'J');
+      break;
+    case 'M':
+      if (!gesperrt) anfordern('M');
+      break;
+    case 'K':
+      statusIcons();
+      break;
+    default:
+      icon(IconFrage);
+      tastenzustand_ = 'K';
+  }
+}
+
+void Messzyklus::statusIcons() {
+  if (u_.antwort.Status == 'B') icon(IconBatterie);
+  if (u_.antwort.Status == 'S') icon(IconSim);
+}
+
+void Messzyklus::zustandAuswerten() {
+  switch (tastenzustand_) {
+    case 'M':
+    case 'S':
+      einzelmessung();
+      break;
+    case 'J':
+      laufStarten(false);
+      break;
+    case 'Q':
+      laufStarten(true);
+      break;
+    default:
+      tmrPolling_->setEnabled(true);
+  }
+}
+
+void Messzyklus::einzelmessung() {
+  const char* taste = aufgabe_.beschreibung().tasteEinzel;
+  ansicht_.zeigeSanduhr(true);
+  aufgabe_.setFilter(u_.system.FilterVorgabe);
+  ansicht_.zeigeTaste(taste, true);
+  if (!frage('M', u_.korCom.MesszeitLimit())) {
+    // Hourglass and key stay as they are until the next single measurement ends: the user sees that it
+    // failed.
+    verbindungVerloren();
+    return;
+  }
+  if (u_.antwort.Antwortart == 'm') {
+    uebernehmen();
+    if (control_.DSRHolding()) control_.setRTSEnable(true);
+  } else {
+    icon(IconFrage);
+  }
+  ansicht_.zeigeSanduhr(false);
+  ansicht_.zeigeTaste(taste, false);
+  ansicht_.setWertFarbe(FarbeGelb);
+  tastenzustand_ = 'K';
+  tmrPolling_->setEnabled(true);
+}
+
+// ---- Running measurements ----
+
+void Messzyklus::laufStarten(bool schnell) {
+  const ZyklusBeschreibung& b = aufgabe_.beschreibung();
+  ansicht_.zeigeTaste(schnell ? b.tasteSchnell : b.tasteLaufend, true);
+  tastenzustand_ = 'K';
+  tmrKeyPressed_->setInterval(LaufKeyPressedMs);
+  tmrJ_->setInterval(LaufJMs);
+  // The limits stay those of the level that was asked for before: the fast levels have none of their own.
+  if (schnell) aufgabe_.setFilter(schnelleStufe(u_.system.FilterVorgabe));
+  aufgabe_.laufBeginnt(u_.clock.secondsOfDay());
+  ansicht_.setTasteFrei(b.tasteEinrichten, false);
+  laeuft_ = true;
+  tmrPolling_->setEnabled(false);
+  tmrJ_->setEnabled(true);
+}
+
+void Messzyklus::tickJ() {
+  if (tickBeginnt()) return;
+  const auto unterbrochen = [this] { return schliessen_ || tastenzustand_ == 'J' || tastenzustand_ == 'Q'; };
+  const LaufSchritt schritt = aufgabe_.laufSchritt(unterbrochen);
+  if (schritt.art == LaufSchritt::Art::unterbrochen && schliessen_) {
+    tickBeginnt();
+    return;
+  }
+  if (schritt.art != LaufSchritt::Art::senden) {
+    laufBeenden();
+    return;
+  }
+  if (!frage(schritt.befehl, u_.korCom.JustageZeitLimit())) {
+    verbindungVerloren();
+    return;
+  }
+  if (laufTaktFortsetzen()) {
+    tmrJ_->setEnabled(true);
+  } else {
+    laufBeenden();
+  }
+}
+
+bool Messzyklus::laufTaktFortsetzen() {
+  const char art = u_.antwort.Antwortart;
+  if (art == 'j' || (art == 'm' && aufgabe_.beschreibung().mAlsLauftelegramm)) {
+    uebernehmen();
+  } else if (art != 'T') {
+    icon(IconFrage);
+  }
+  statusIcons();
+  if (u_.antwort.Taste == 'J' || tastenzustand_ == 'Q' || tastenzustand_ == 'J') return false;
+  return !aufgabe_.laufFertig();
+}
+
+void Messzyklus::laufBeenden() {
+  if (!laeuft_) return;
+  laeuft_ = false;
+  const ZyklusBeschreibung& b = aufgabe_.beschreibung();
+  tmrJ_->setEnabled(false);
+  ansicht_.zeigeTaste(b.tasteLaufend, false);
+  ansicht_.zeigeTaste(b.tasteSchnell, false);
+  aufgabe_.setFilter(u_.system.FilterVorgabe);
+  tmrKeyPressed_->setInterval(LaufKeyPressedMs);
+  tastenzustand_ = 'K';
+  aufgabe_.laufBeendet();
+  ansicht_.setTasteFrei(b.tasteEinrichten, true);
+  tmrPolling_->setEnabled(true);
+}
+
+// ---- Readings ----
+
+void Messzyklus::uebernehmen() {
+  const double norm = zahlAusText(u_.profil.wert(einstellung::Verbindung::NormInt_Laser));
+  const Qualitaet befund =
+      qualitaetPruefen(u_.antwort, norm, u_.korCom.SensorHalbbereich(), tastenzustand_ == 'K');
+  if (befund.neueNorm) {
+    u_.profil.schreiben(einstellung::Verbindung::NormInt_Laser, std::to_string(*befund.neueNorm));
+  }
+  if (befund.schwaecher) icon(IconSchwaecher);
+  ansicht_.zeigeIntensitaet(
+      u_.dictionary.DicText(3081) + ": " + formatNumber(u_.antwort.Intensitaet, "0") + " % ",
+      befund.intensitaetFarbe);
+  ansicht_.setWertFarbe(befund.wertFarbe);
+  if (befund.ok) aufgabe_.wertUebernehmen(u_.antwort);
+  ansicht_.neuZeichnen(true);
+  if (!befund.ok) {
+    icon(IconAbgelehnt);
+    ansicht_.zeigeLeereWerte(" " + std::string(LeerMuster(aufgabe_.nkStellen())));
+  }
+}
+
+// ---- A lost link ----
+
+void Messzyklus::verbindungVerloren() {
+  laufBeenden();
+  tmrPolling_->setEnabled(false);
+  icon(IconFunk);
+  try {
+    wiederverbinden();
+  } catch (const std::exception&) {
+    // A second failure on the way changes nothing: the next poll tries again.
+    icon(IconFunk);
+  }
+  tmrPolling_->setEnabled(true);
+}
+
+void Messzyklus::wiederverbinden() {
+  pause(u_.clock, u_.pump, PauseWiederverbinden);
+  // On the simulated head no port belongs to this window.
+  if (marken_.online && !schliessen_) {
+    const LinkAngaben angaben = aufgabe_.linkAngaben();
+    u_.korCom.ComSchliessen(control_);
+    if (!u_.korCom.ComOeffnen(control_, angaben.port, angaben.settings, angaben.id, u_.antwort)) {
+      u_.meldung = wiederverbindenGescheitert(titel(), u_.antwort, u_.dictionary);
+      u_.messages.beep();
+      u_.messages.show(u_.meldung, MessageIcon::warning, MessageButtons::ok);
+    }
+  }
+  pause(u_.clock, u_.pump, PauseWiederverbinden);
+}
+
+}  // namespace korvin

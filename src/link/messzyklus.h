@@ -1,0 +1,126 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "frame/clock.h"
+#include "frame/dictionary.h"
+#include "frame/event_pump.h"
+#include "frame/farbe.h"
+#include "frame/message_port.h"
+#include "frame/messplatz.h"
+#include "frame/profil.h"
+#include "frame/timer.h"
+#include "link/kor_com.h"
+#include "link/messaufgabe.h"
+#include "link/messfenster_ansicht.h"
+#include "link/messwert.h"
+
+namespace korvin {
+
+/// What a measuring cycle works with. All outlive it.
+struct ZyklusUmgebung {
+  const Clock& clock;
+  EventPump& pump;
+  TimerSource& timers;
+  MessagePort& messages;
+  Dictionary& dictionary;
+  Profil& profil;
+  Meldung& meldung;
+  KorCom& korCom;
+  KameraAntwort& antwort;
+  Systemwerte& system;
+};
+
+/// The measuring cycle of every window: polling, keys, info icons, quality check, reconnect, trigger line,
+/// starts and ends of runs, closing in two steps. Driven by timer ticks; exactly one of `tmrPolling` and
+/// `tmrJ` runs at a time, and neither during a transaction. Toolbar clicks that arrive while a transaction
+/// waits only set `Tastenzustand`; the next tick acts. Any run-time failure inside a tick ends in the link
+/// recovery.
+class Messzyklus {
+ public:
+  Messzyklus(const ZyklusUmgebung& umgebung, MSComm& control, Messaufgabe& aufgabe,
+             MessfensterAnsicht& ansicht);
+  ~Messzyklus();
+  Messzyklus(const Messzyklus&) = delete;
+  Messzyklus& operator=(const Messzyklus&) = delete;
+
+  /// Connects with the head by the record's values; if that fails, tells so and goes on with the simulated
+  /// head.
+  void M_KVNOnline();
+  /// Goes on with the simulated head; the way back is to close the window and open it anew.
+  void M_KVNSimulation();
+  const Verbindungsmarken& verbindung() const { return marken_; }
+
+  /// A press of one of the three measuring keys: sets the state to "M", "J" or "Q", and restarts
+  /// `tmrKeyPressed`.
+  void anfordern(char zustand);
+  char Tastenzustand() const { return tastenzustand_; }
+  bool laeuft() const { return laeuft_; }
+  bool imTick() const { return imTick_; }
+
+  /// Ends a running measurement with all that belongs to it; nothing without one.
+  void laufBeenden();
+
+  /// Runs `befehl` at once, or, while a tick is under way, as soon as it has ended. For commands that replace
+  /// or clear the data: a reading that is under way must not land in them.
+  void nachTick(std::function<void()> befehl);
+
+  /// The first closing request, after the user's consent: the next tick unloads the window.
+  void schliessenAnfordern();
+  bool Schliessen() const { return schliessen_; }
+  /// The second request: timers off, port closed, pointer back.
+  void beenden();
+
+  /// Timers, for the sliders of the service panel.
+  Timer& tmrPolling() { return *tmrPolling_; }
+  Timer& tmrJ() { return *tmrJ_; }
+  Timer& tmrKeyPressed() { return *tmrKeyPressed_; }
+  Timer& tmrInfoToggle() { return *tmrInfoToggle_; }
+
+ private:
+  void tick(void (Messzyklus::*arbeit)());
+  void tickPolling();
+  void tickJ();
+  void tickKeyPressed();
+  void tickInfoToggle();
+  void onComm();
+
+  /// The common start of both ticks; true if the window was unloaded.
+  bool tickBeginnt();
+  void tasteAuswerten();
+  void zustandAuswerten();
+  void einzelmessung();
+  void laufStarten(bool schnell);
+  bool laufTaktFortsetzen();
+  void statusIcons();
+  bool frage(char befehl, double limit);
+  void uebernehmen();
+  void icon(const char* schluessel);
+  void verbindungVerloren();
+  void wiederverbinden();
+  void meldeVerbindungsfehler();
+  std::string titel();
+
+  ZyklusUmgebung u_;
+  MSComm& control_;
+  Messaufgabe& aufgabe_;
+  MessfensterAnsicht& ansicht_;
+  std::unique_ptr<Timer> tmrPolling_;
+  std::unique_ptr<Timer> tmrJ_;
+  std::unique_ptr<Timer> tmrKeyPressed_;
+  std::unique_ptr<Timer> tmrInfoToggle_;
+  Verbindungsmarken marken_;
+  char tastenzustand_ = 'K';
+  bool schliessen_ = false;
+  bool entladen_ = false;
+  bool laeuft_ = false;
+  bool imTick_ = false;
+  bool infoFrisch_ = false;  ///< the tag of `imgInfo`
+  Farbe led_ = FarbeGrau;
+  std::vector<std::function<void()>> wartendeBefehle_;
+};
+
+}  // namespace korvin
