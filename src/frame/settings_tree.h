@@ -43,6 +43,8 @@ class SettingsTree {
   /// Empty while the store can be read; otherwise why it can't, in the system's words. A store in this state
   /// holds its file untouched, reads as empty and refuses to write.
   virtual std::string unreadable() const = 0;
+  /// True if another program's lock is the reason.
+  virtual bool lockedByAnother() const { return false; }
 };
 
 }  // namespace korvin

@@ -15,16 +15,6 @@ constexpr const char* Tables =
     " path TEXT NOT NULL COLLATE NOCASE, name TEXT NOT NULL COLLATE NOCASE, value,"
     " PRIMARY KEY (path, name)) WITHOUT ROWID;";
 
-/// Why the last call failed: SQLite's words, and the system's where it has any.
-std::string reason(sqlite3* connection) {
-  std::string text = sqlite3_errmsg(connection);
-  const int system = sqlite3_system_errno(connection);
-  if (sqlite3_errcode(connection) == SQLITE_CANTOPEN && system != 0) {
-    text += ": " + std::generic_category().message(system);
-  }
-  return text;
-}
-
 /// SQLite takes a small file of any text for an empty database and would overwrite it. Looks through SQLite's
 /// own file handle: a second one, when closed, would drop the locks of this process.
 bool emptyOrDatabase(sqlite3* connection) {
@@ -86,26 +76,35 @@ bool SqliteSettingsTree::connect(IfMissing ifMissing) {
     // EXTRA flushes the folder too: a change that was answered with true survives a power cut.
     if (refusal_.empty()) execute("PRAGMA synchronous = EXTRA");
   } else if (std::error_code error; std::filesystem::exists(file_, error)) {
-    refusal_ = reason(made);
+    refusal_ = reason();
   }
   if (result != SQLITE_OK || !refusal_.empty()) connection_.reset();
   return connection_ != nullptr;
 }
 
+std::string SqliteSettingsTree::reason() {
+  std::string text = sqlite3_errmsg(connection_.get());
+  const int system = sqlite3_system_errno(connection_.get());
+  const int code = sqlite3_errcode(connection_.get());
+  locked_ = code == SQLITE_BUSY;
+  if (code == SQLITE_CANTOPEN && system != 0) text += ": " + std::generic_category().message(system);
+  return text;
+}
+
 std::string SqliteSettingsTree::flaw() {
   SqliteStatement check(connection_.get(), "PRAGMA quick_check(1)");
-  if (!check.step()) return reason(connection_.get());
+  if (!check.step()) return reason();
   if (const std::string found = check.text(0); found != "ok") return found;
 
   SqliteStatement content(connection_.get(), "SELECT count(*) FROM sqlite_schema");
-  if (!content.step()) return reason(connection_.get());
+  if (!content.step()) return reason();
   if (content.number(0) == 0) return emptyOrDatabase(connection_.get()) ? "" : sqlite3_errstr(SQLITE_NOTADB);
   // Another program's database lacks these columns, and SQLite says which.
   SqliteStatement ours(
       connection_.get(),
       "SELECT k.path, k.class, v.path, v.name, v.value FROM settings_key k, settings_value v LIMIT 0");
   ours.step();
-  return ours.good() ? std::string() : reason(connection_.get());
+  return ours.good() ? std::string() : reason();
 }
 
 bool SqliteSettingsTree::readable() {
@@ -116,7 +115,8 @@ bool SqliteSettingsTree::readable() {
 }
 
 bool SqliteSettingsTree::noted(const SqliteStatement& statement) {
-  failedRead_ = statement.good() ? std::string() : reason(connection_.get());
+  locked_ = false;
+  failedRead_ = statement.good() ? std::string() : reason();
   return statement.good();
 }
 

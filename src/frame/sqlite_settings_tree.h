@@ -35,6 +35,7 @@ class SqliteSettingsTree : public SettingsTree {
   bool deleteKey(std::string_view path) override;
   bool inOneChange(const std::function<bool()>& steps) override;
   std::string unreadable() const override;
+  bool lockedByAnother() const override { return locked_; }
 
   /// Class string of a key, or nothing if the key isn't there.
   std::optional<std::string> className(std::string_view path);
@@ -52,6 +53,8 @@ class SqliteSettingsTree : public SettingsTree {
   /// Opens the file unless it is open. False if it is missing or can't be used.
   bool connect(IfMissing ifMissing);
   bool prepareFile(IfMissing ifMissing);
+  /// Why the last call failed: SQLite's words, and the system's where it has any. Takes note of a lock.
+  std::string reason();
   /// Why the freshly opened file can't be read as a settings tree, or nothing.
   std::string flaw();
   /// True if the file is open and has the tables.
@@ -72,6 +75,7 @@ class SqliteSettingsTree : public SettingsTree {
   SqliteConnection connection_;
   std::string refusal_;     ///< why the file can't be used at all
   std::string failedRead_;  ///< why the last read failed
+  bool locked_ = false;     ///< a lock was the reason
   bool inChange_ = false;
 };
 

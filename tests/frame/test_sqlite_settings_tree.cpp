@@ -46,6 +46,7 @@ class SqliteSettingsTreeTest : public testing::Test {
     {
       SqliteSettingsTree tree(path, noPatience);
       EXPECT_EQ(tree.unreadable(), why);
+      EXPECT_FALSE(tree.lockedByAnother());
       EXPECT_FALSE(tree.keyExists("A"));
       EXPECT_FALSE(tree.readValue("A", "n"));
       EXPECT_FALSE(tree.writeValue("A", "n", "x"));
@@ -195,11 +196,13 @@ TEST_F(SqliteSettingsTreeTest, ALockedFileSaysSoAndStaysUntouched) {
   ASSERT_EQ(sqlite3_exec(other.get(), "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
   SqliteSettingsTree tree(file, noPatience);
   EXPECT_EQ(tree.unreadable(), "database is locked");
+  EXPECT_TRUE(tree.lockedByAnother());
   EXPECT_FALSE(tree.keyExists("A"));
   EXPECT_FALSE(tree.writeValue("A", "n", "x"));
   ASSERT_EQ(sqlite3_exec(other.get(), "ROLLBACK", nullptr, nullptr, nullptr), SQLITE_OK);
   // Decided for the session: what was told to the user stays true.
   EXPECT_EQ(tree.unreadable(), "database is locked");
+  EXPECT_TRUE(tree.lockedByAnother());
   EXPECT_FALSE(tree.writeValue("A", "n", "x"));
   EXPECT_EQ(SqliteSettingsTree(file).readValue("A", "n"), RegWert("kept"));
 }
@@ -211,10 +214,12 @@ TEST_F(SqliteSettingsTreeTest, ALockThatComesLaterIsTellableFromAMissingValueAnd
   ASSERT_EQ(sqlite3_exec(other.get(), "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
   EXPECT_FALSE(tree.readValue("A", "n"));
   EXPECT_EQ(tree.unreadable(), "database is locked");
+  EXPECT_TRUE(tree.lockedByAnother());
   EXPECT_FALSE(tree.writeValue("A", "n", "x"));
   ASSERT_EQ(sqlite3_exec(other.get(), "ROLLBACK", nullptr, nullptr, nullptr), SQLITE_OK);
   EXPECT_EQ(tree.readValue("A", "n"), RegWert("kept"));
   EXPECT_EQ(tree.unreadable(), "");
+  EXPECT_FALSE(tree.lockedByAnother());
 }
 
 TEST_F(SqliteSettingsTreeTest, AReaderDoesNotHinderAWriterUntilItsEnd) {

@@ -83,10 +83,12 @@ class MemorySettingsTree : public korvin::MemorySettingsTree {
   Creation createKey(std::string_view path, std::string_view className) override;
   bool deleteKey(std::string_view path) override;
   std::string unreadable() const override { return unreadableText; }
+  bool lockedByAnother() const override { return locked; }
 
   using korvin::MemorySettingsTree::keys;
   bool writable = true;
   std::string unreadableText;  ///< if not empty, reads give nothing and writes refuse
+  bool locked = false;
 
  private:
   bool canWrite() const { return writable && unreadableText.empty(); }
