@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "frame/datei_dialog.h"
 #include "frame/messart.h"
 
 namespace korvin {
@@ -71,9 +72,9 @@ std::string FilterAlleMessdateien(Dictionary& dictionary) {
   return paar(dictionary, TextAlleMessdateien, '?') + "|" + zyklusAb(dictionary, 0);
 }
 
-FileDialogRequest dateiOeffnenDialog(Dictionary& dictionary, const std::string& filter,
-                                     const std::string& ordner) {
-  return {ordner, filter, dictionary.DicText(TextDialog), true};
+std::string messdateiErfragen(FileDialog& dialog, Dictionary& dictionary, const std::string& filter,
+                              const std::string& ordner) {
+  return dateiErfragen(dialog, ordner, filter, dictionary.DicText(TextDialog), true);
 }
 
 void DateiVerteilung::anmelden(std::int16_t messart, MessartEmpfaenger& empfaenger) {

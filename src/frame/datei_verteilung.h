@@ -17,9 +17,10 @@ std::string FilterDateiOeffnen(Dictionary& dictionary, int index);
 /// The same five kinds after one pattern for all of them: the toolbar's "DateiOeffnen".
 std::string FilterAlleMessdateien(Dictionary& dictionary);
 
-/// The dialog that asks for a measuring file. `ordner` is the folder of the measuring files.
-FileDialogRequest dateiOeffnenDialog(Dictionary& dictionary, const std::string& filter,
-                                     const std::string& ordner);
+/// Asks for a measuring file, starting in `ordner`, the folder of the measuring files. The empty text after
+/// Cancel.
+std::string messdateiErfragen(FileDialog& dialog, Dictionary& dictionary, const std::string& filter,
+                              const std::string& ordner);
 
 /// A measuring kind as the main window sees it. To add a kind: implement this beside its window and give it
 /// to `DateiVerteilung::anmelden` in main().

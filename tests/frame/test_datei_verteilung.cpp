@@ -159,11 +159,16 @@ TEST(FilterDateiOeffnen, TheFiveKindsInACycleFromTheKindChosen) {
 
 TEST(FilterDateiOeffnen, TheDialogOpensInTheMeasuringFolder) {
   test::TestDictionary dictionary;
-  const FileDialogRequest request = dateiOeffnenDialog(dictionary, "filter", "/m/KorFiles/");
-  EXPECT_EQ(request.folder, "/m/KorFiles/");
-  EXPECT_EQ(request.filter, "filter");
-  EXPECT_EQ(request.title, "D2044");
-  EXPECT_TRUE(request.open);
+  test::TestFileDialog dialog;
+  dialog.answers = {"/m/KorFiles/a.O"};
+  const std::string filter = FilterDateiOeffnen(dictionary, 4);
+  EXPECT_EQ(messdateiErfragen(dialog, dictionary, filter, "/m/KorFiles/"), "/m/KorFiles/a.O");
+  EXPECT_EQ(messdateiErfragen(dialog, dictionary, filter, "/m/KorFiles/"), "");
+  ASSERT_EQ(dialog.requests.size(), 2U);
+  EXPECT_EQ(dialog.requests[0].folder, "/m/KorFiles/");
+  EXPECT_EQ(dialog.requests[0].filter, filter);
+  EXPECT_EQ(dialog.requests[0].title, "D2044");
+  EXPECT_TRUE(dialog.requests[0].open);
 }
 
 }  // namespace
