@@ -10,12 +10,16 @@
 #include "frame/ui/theme.h"
 
 // At global scope: the resource's symbol lives there.
-static void openIconResource() { Q_INIT_RESOURCE(icons); }
+static void openIconResource() {
+  Q_INIT_RESOURCE(icons);
+}
 
 namespace korvin {
 namespace {
 
-QString path(const QString& key) { return QStringLiteral(":/icons/%1.svg").arg(key); }
+QString path(const QString& key) {
+  return QStringLiteral(":/icons/%1.svg").arg(key);
+}
 
 QByteArray source(const QString& key, bool dark) {
   QFile file(path(key));
@@ -44,7 +48,11 @@ class SvgIconEngine : public QIconEngine {
 
   QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
     const QString name = QStringLiteral("korvin_%1_%2x%3_%4_%5")
-                             .arg(key_).arg(size.width()).arg(size.height()).arg(int{mode}).arg(int{isDark()});
+                             .arg(key_)
+                             .arg(size.width())
+                             .arg(size.height())
+                             .arg(int{mode})
+                             .arg(int{isDark()});
     QPixmap picture;
     if (QPixmapCache::find(name, &picture)) return picture;
     picture = QPixmap(size);

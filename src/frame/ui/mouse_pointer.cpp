@@ -12,9 +12,13 @@ void showNormalPointer() {
   while (QApplication::overrideCursor() != nullptr) QApplication::restoreOverrideCursor();
 }
 
-bool hourglassShown() { return QApplication::overrideCursor() != nullptr; }
+bool hourglassShown() {
+  return QApplication::overrideCursor() != nullptr;
+}
 
-NormalPointerScope::NormalPointerScope() : hourglassBefore_(hourglassShown()) { showNormalPointer(); }
+NormalPointerScope::NormalPointerScope() : hourglassBefore_(hourglassShown()) {
+  showNormalPointer();
+}
 
 NormalPointerScope::~NormalPointerScope() {
   if (hourglassBefore_) showHourglass();

@@ -2,7 +2,8 @@
 
 namespace korvin {
 
-/// The mouse pointer of the whole program: it is either the hourglass or the normal one, however often it is set.
+/// The mouse pointer of the whole program: it is either the hourglass or the normal one, however often it is
+/// set.
 void showHourglass();
 void showNormalPointer();
 bool hourglassShown();

@@ -9,7 +9,9 @@ QtEventPump::QtEventPump() {
   alarm_.setTimerType(Qt::PreciseTimer);
 }
 
-void QtEventPump::processEvents() { QCoreApplication::processEvents(); }
+void QtEventPump::processEvents() {
+  QCoreApplication::processEvents();
+}
 
 void QtEventPump::waitForEvents(std::chrono::milliseconds longest) {
   if (longest.count() <= 0) {

@@ -36,7 +36,8 @@ ButtonSet buttonSet(MessageButtons buttons) {
     case MessageButtons::yesNo:
       return {QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes, QMessageBox::No};
     case MessageButtons::yesNoCancel:
-      return {QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes, QMessageBox::Cancel};
+      return {QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes,
+              QMessageBox::Cancel};
     case MessageButtons::ok:
       break;
   }
@@ -56,7 +57,9 @@ MessageAnswer answerOf(int pressed) {
   }
 }
 
-QString plainLines(const std::string& text) { return qText(text).replace(QLatin1String("\r\n"), QLatin1String("\n")); }
+QString plainLines(const std::string& text) {
+  return qText(text).replace(QLatin1String("\r\n"), QLatin1String("\n"));
+}
 
 }  // namespace
 
@@ -73,6 +76,8 @@ MessageAnswer QtMessagePort::show(const Meldung& message, MessageIcon icon, Mess
   return answerOf(box.exec());
 }
 
-void QtMessagePort::beep() { QApplication::beep(); }
+void QtMessagePort::beep() {
+  QApplication::beep();
+}
 
 }  // namespace korvin

@@ -12,6 +12,8 @@ inline QString qText(std::string_view utf8) {
 }
 
 /// Qt's text as UTF-8.
-inline std::string utf8Text(const QString& text) { return text.toStdString(); }
+inline std::string utf8Text(const QString& text) {
+  return text.toStdString();
+}
 
 }  // namespace korvin

@@ -1,0 +1,105 @@
+#include "frame/ui/qt_file_dialog.h"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRegularExpression>
+
+#include "frame/ui/mouse_pointer.h"
+#include "frame/ui/qt_text.h"
+#include "frame/ui/theme.h"
+
+namespace korvin {
+namespace {
+
+/// ".O" of "Position (*.O)"; empty if the pattern does not fix it.
+QString extensionOf(const QString& nameFilter) {
+  static const QRegularExpression pattern(QStringLiteral("\\(\\*(\\.[^\\s*?()]+)[^()]*\\)\\s*$"));
+  return pattern.match(nameFilter).captured(1);
+}
+
+/// Completes the typed name before the dialog judges it, so that the question about replacing names the right
+/// file.
+class CompletingDialog : public QFileDialog {
+ public:
+  explicit CompletingDialog(QWidget* parent) : QFileDialog(parent) { setOption(DontUseNativeDialog); }
+
+  /// Follows the entry and the filter; to be called once, when the dialog is set up.
+  void followEntry() {
+    entry_ = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    // Lets the accepting button see that "rail" means the "rail.O" that is there.
+    connect(this, &QFileDialog::filterSelected, this,
+            [this](const QString& filter) { setDefaultSuffix(extensionOf(filter)); });
+    setDefaultSuffix(extensionOf(selectedNameFilter()));
+    connect(entry_, &QLineEdit::textChanged, this, &CompletingDialog::allowHiddenByFilter);
+  }
+
+ protected:
+  void accept() override {
+    if (!entry_->text().isEmpty()) complete();
+    // The name is whole now; with a suffix Qt would add it even to a file that is there without one.
+    const QString suffix = defaultSuffix();
+    setDefaultSuffix({});
+    QFileDialog::accept();
+    if (isVisible()) setDefaultSuffix(suffix);
+  }
+
+ private:
+  /// A file that the filter does not show can be opened by its name all the same.
+  void allowHiddenByFilter() const {
+    auto* buttons = findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"));
+    QPushButton* openButton = buttons->button(QDialogButtonBox::Open);
+    if (openButton != nullptr && typedFile().isFile()) openButton->setEnabled(true);
+  }
+
+  void complete() const {
+    if (typedFile().isDir()) return;
+    // A file that is there under the name as typed is opened as it is.
+    if (acceptMode() == AcceptOpen && typedFile().exists()) return;
+    entry_->setText(completedName(entry_->text(), selectedNameFilter()));
+  }
+
+  QFileInfo typedFile() const { return QFileInfo(directory(), entry_->text()); }
+
+  QLineEdit* entry_ = nullptr;
+};
+
+}  // namespace
+
+QStringList nameFilters(const QString& pairs) {
+  static const QRegularExpression brackets(QStringLiteral("\\s*\\([^()]*\\)\\s*$"));
+  const QStringList parts = pairs.split(QLatin1Char('|'));
+  QStringList filters;
+  for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+    QString words = parts[i];
+    words.remove(brackets);
+    filters << QStringLiteral("%1 (%2)").arg(words, parts[i + 1]);
+  }
+  return filters;
+}
+
+QString completedName(const QString& name, const QString& nameFilter) {
+  const QString extension = extensionOf(nameFilter);
+  return name.endsWith(extension, Qt::CaseInsensitive) ? name : name + extension;
+}
+
+std::string QtFileDialog::choose(const FileDialogRequest& request) {
+  const NormalPointerScope pointer;
+  CompletingDialog dialog(QApplication::activeWindow());
+  dialog.setObjectName(QStringLiteral("CMDialogDatei"));
+  dialog.setWindowTitle(request.title.empty() ? QStringLiteral("Dateiauswahl") : qText(request.title));
+  dialog.setAcceptMode(request.open ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
+  dialog.setFileMode(request.open ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+  dialog.setNameFilters(nameFilters(qText(request.filter)));
+  dialog.setDirectory(qText(request.folder));
+  dialog.followEntry();
+  dialog.resize(scaled(820), scaled(540));
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+  return utf8Text(QDir::toNativeSeparators(dialog.selectedFiles().constFirst()));
+}
+
+}  // namespace korvin

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QStringList>
+
+#include "frame/file_dialog.h"
+
+namespace korvin {
+
+/// Qt's own file dialog over the active window, in the language of `QtTranslations`. Saving asks before a
+/// file is replaced; opening takes only files that are there. The dialog bears the object name
+/// "CMDialogDatei".
+class QtFileDialog : public FileDialog {
+ public:
+  std::string choose(const FileDialogRequest& request) override;
+};
+
+/// "Position|*.O|Straightness (*.G)|*.G" as the dialog's name filters "Position (*.O)", "Straightness (*.G)".
+/// A pattern in brackets at a text's end is not repeated; a text without a pattern is dropped.
+QStringList nameFilters(const QString& pairs);
+
+/// `name` with the extension of the first pattern in the name filter: "rail" and "rail.txt" become "rail.O"
+/// and "rail.txt.O" for "… (*.O)". A name that has it (in any case) stays; so does every name for "*.?" or
+/// "*.*".
+QString completedName(const QString& name, const QString& nameFilter);
+
+}  // namespace korvin

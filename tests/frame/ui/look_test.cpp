@@ -1,0 +1,177 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QImage>
+#include <QKeyEvent>
+#include <QLibraryInfo>
+#include <QTest>
+#include <QToolButton>
+#include <QTranslator>
+
+#include "frame/ui/icons.h"
+#include "frame/ui/key_tool_bar.h"
+#include "frame/ui/qt_text.h"
+#include "frame/ui/swedish_translator.h"
+#include "frame/ui/text_entry.h"
+#include "frame/ui/theme.h"
+#include "support/test_ports.h"
+
+namespace korvin {
+namespace {
+
+bool has(const QImage& picture, QRgb colour) {
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      if (picture.pixel(x, y) == colour) return true;
+    }
+  }
+  return false;
+}
+
+class DarkLook {
+ public:
+  DarkLook() { applyTheme(Appearance::dark, 0.9, 0); }
+  ~DarkLook() { applyTheme(Appearance::light, 0.9, 0); }
+};
+
+TEST(IconTest, AnUnknownKeyGivesAnEmptyIcon) {
+  EXPECT_TRUE(icon(QString()).isNull());
+  EXPECT_TRUE(icon(QStringLiteral("ICON999")).isNull());
+  EXPECT_FALSE(icon(QStringLiteral("ICON34")).isNull());
+}
+
+TEST(IconTest, IsDrawnAnewForEachPixelRatio) {
+  const QPixmap picture = iconPixmap(QStringLiteral("ICON34"), 24, 2.0);
+  EXPECT_EQ(picture.width(), 48);
+  EXPECT_EQ(picture.devicePixelRatio(), 2.0);
+}
+
+TEST(IconTest, LinesAreLightOnADarkGround) {
+  EXPECT_TRUE(has(iconPixmap(QStringLiteral("ICON31"), 96, 1).toImage(), 0xff33475b));
+  const DarkLook dark;
+  const QImage onDark = iconPixmap(QStringLiteral("ICON31"), 96, 1).toImage();
+  EXPECT_FALSE(has(onDark, 0xff33475b));
+  EXPECT_TRUE(has(onDark, 0xffc7d3df));
+}
+
+TEST(ThemeTest, TheScaleKeepsSmallScreensLegible) {
+  EXPECT_DOUBLE_EQ(screenScale(0.8, 0.75), 0.9);
+  EXPECT_DOUBLE_EQ(screenScale(3.0, 2.109375), 2.109375);
+}
+
+TEST(ThemeTest, SizesFollowTheScale) {
+  applyTheme(Appearance::light, 2.0, 0);
+  EXPECT_EQ(scaled(10), 20);
+  EXPECT_EQ(QApplication::font().pixelSize(), 28);
+  applyTheme(Appearance::light, 0.9, 0);
+}
+
+TEST(ThemeTest, TheLatinFamilyIsFirstAndTheSignsFollowTheLanguage) {
+  EXPECT_EQ(fontFamilies(6),
+            QStringList({QStringLiteral("Liberation Sans"), QStringLiteral("Noto Sans CJK SC")}));
+  EXPECT_EQ(fontFamilies(7),
+            QStringList({QStringLiteral("Liberation Sans"), QStringLiteral("Noto Sans CJK JP")}));
+}
+
+class KeyToolBarTest : public ::testing::Test {
+ protected:
+  KeyToolBarTest() : bar(QStringLiteral("tbrTest")) {
+    bar.add(QStringLiteral("Neu"), QStringLiteral("ICON1"), KeyToolBar::Kind::push,
+            QKeySequence(QStringLiteral("Ctrl+N")));
+    bar.add(QStringLiteral("A"), QStringLiteral("ICON2"), KeyToolBar::Kind::group);
+    bar.add(QStringLiteral("B"), QStringLiteral("ICON3"), KeyToolBar::Kind::group);
+    bar.onButton = [this](const QString& key) { clicked << key; };
+    bar.show();
+  }
+
+  KeyToolBar bar;
+  QStringList clicked;
+};
+
+TEST_F(KeyToolBarTest, AClickTellsTheKey) {
+  QTest::mouseClick(bar.button(QStringLiteral("Neu")), Qt::LeftButton);
+  EXPECT_EQ(clicked, QStringList{QStringLiteral("Neu")});
+  EXPECT_EQ(bar.findChild<QToolButton*>(QStringLiteral("Neu")), bar.button(QStringLiteral("Neu")));
+}
+
+TEST_F(KeyToolBarTest, PressingIsAsAClickAndADisabledKeyDoesNothing) {
+  bar.press(QStringLiteral("Neu"));
+  bar.setKeyEnabled(QStringLiteral("Neu"), false);
+  bar.press(QStringLiteral("Neu"));
+  bar.press(QStringLiteral("none"));
+  EXPECT_EQ(clicked, QStringList{QStringLiteral("Neu")});
+}
+
+TEST_F(KeyToolBarTest, TheTooltipNamesTheShortcut) {
+  bar.setWords(QStringLiteral("Neu"), QStringLiteral("Neue Messung"));
+  EXPECT_EQ(bar.button(QStringLiteral("Neu"))->toolTip(), QStringLiteral("Neue Messung  (Ctrl+N)"));
+}
+
+TEST_F(KeyToolBarTest, OfAGroupOneIsPressed) {
+  QTest::mouseClick(bar.button(QStringLiteral("A")), Qt::LeftButton);
+  QTest::mouseClick(bar.button(QStringLiteral("B")), Qt::LeftButton);
+  EXPECT_FALSE(bar.isPressed(QStringLiteral("A")));
+  EXPECT_TRUE(bar.isPressed(QStringLiteral("B")));
+  bar.setPressed(QStringLiteral("B"), false);
+  EXPECT_FALSE(bar.isPressed(QStringLiteral("B")));
+  EXPECT_EQ(clicked.size(), 2);
+}
+
+/// Types signs that no key of the test's keyboard has.
+void type(QWidget& into, const QString& text) {
+  for (const QChar sign : text) {
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(sign));
+    QApplication::sendEvent(&into, &press);
+  }
+}
+
+class TextEntryTest : public ::testing::Test {
+ protected:
+  test::TestDictionary dictionary;
+  TextEntry entry{dictionary, 5};
+};
+
+TEST_F(TextEntryTest, RefusesVisiblyWhatARecordCannotHold) {
+  entry.setValue("Öl");
+  entry.end(false);
+  type(entry, QStringLiteral("漢"));
+  EXPECT_EQ(entry.value(), "Öl");
+  EXPECT_TRUE(entry.property("refused").toBool());
+}
+
+TEST_F(TextEntryTest, TakesAllOfWindows1252) {
+  type(entry, QStringLiteral("€µß"));
+  EXPECT_EQ(entry.value(), "€µß");
+  EXPECT_FALSE(entry.property("refused").toBool());
+}
+
+TEST_F(TextEntryTest, RefusesVisiblyWhatIsTooLong) {
+  type(entry, QStringLiteral("abcdef"));
+  EXPECT_EQ(entry.value(), "abcde");
+  EXPECT_TRUE(entry.property("refused").toBool());
+}
+
+TEST_F(TextEntryTest, BlanksOnTheRightAreNoText) {
+  entry.setValue("ab   ");
+  EXPECT_EQ(entry.value(), "ab");
+}
+
+// A word that Qt does not know under this context would never be shown. Its German texts tell.
+TEST(SwedishTranslatorTest, EveryWordIsOneOfQts) {
+  QTranslator german;
+  ASSERT_TRUE(german.load(QStringLiteral("qtbase_de"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)));
+  for (const auto& word : SwedishTranslator::words()) {
+    EXPECT_FALSE(german.translate(word.context, word.english).isEmpty())
+        << word.context << ": " << word.english;
+  }
+}
+
+TEST(SwedishTranslatorTest, GivesItsWordsAndNothingForOthers) {
+  const SwedishTranslator swedish;
+  EXPECT_EQ(swedish.translate("QPlatformTheme", "Cancel", nullptr, -1), QStringLiteral("Avbryt"));
+  EXPECT_TRUE(swedish.translate("QPlatformTheme", "Elephant", nullptr, -1).isNull());
+}
+
+}  // namespace
+}  // namespace korvin
