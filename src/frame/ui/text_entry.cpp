@@ -10,8 +10,8 @@
 namespace korvin {
 namespace {
 constexpr int redFrameMs = 1500;
-constexpr std::int16_t textDoesNotFit = 7001;
-constexpr std::int16_t textTooLong = 7002;
+constexpr std::int16_t textDoesNotFit = 7070;
+constexpr std::int16_t textTooLong = 7071;
 
 QString withoutBlanksOnTheRight(QString text) {
   while (text.endsWith(QLatin1Char(' '))) text.chop(1);
