@@ -17,8 +17,8 @@ class FileDialog {
  public:
   virtual ~FileDialog() = default;
 
-  /// The chosen path in UTF-8, or the empty text after Cancel. A name typed with another extension than the kind's is
-  /// completed with it.
+  /// The chosen path in UTF-8, or the empty text after Cancel. A name typed with another extension than the
+  /// kind's is completed with it.
   virtual std::string choose(const FileDialogRequest& request) = 0;
 };
 

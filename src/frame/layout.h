@@ -29,6 +29,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "frame/fester_text.h"
@@ -160,8 +161,20 @@ concept RecordField = requires {
   FieldCodec<T>::width;
 };
 
-/// Walks a record's fields and calls `leaf(name, offset, field)` for each. Derive one of these to do
-/// something new with all records.
+/// The name of a field inside of the records that hold it.
+struct FieldName {
+  const FieldName* outer = nullptr;  ///< the record around it; none for the whole record
+  std::string_view name;
+
+  /// "X.Summe"; records with an empty name leave no trace in it.
+  std::string full() const {
+    std::string text = outer != nullptr ? outer->full() : std::string();
+    if (!text.empty() && !name.empty()) text += ".";
+    return text.append(name);
+  }
+};
+
+/// Walks a record's fields in file order and calls `leaf(name, offset, field)` for each.
 template <class Leaf>
 class FieldWalk {
  public:
@@ -169,14 +182,14 @@ class FieldWalk {
 
   template <class T>
   constexpr void operator()(std::string_view name, T& field) {
+    const FieldName here{outer_, name};
     if constexpr (RecordField<T>) {
-      leaf_(prefix_, name, offset_, field);
+      leaf_(here, offset_, field);
       offset_ += FieldCodec<T>::width;
     } else {
-      const std::string outer = prefix_;
-      if (!name.empty()) prefix_.append(name).append(".");
+      outer_ = &here;
       felder(*this, field);
-      prefix_ = outer;
+      outer_ = here.outer;
     }
   }
 
@@ -184,12 +197,12 @@ class FieldWalk {
 
  private:
   Leaf leaf_;
-  std::string prefix_;
+  const FieldName* outer_ = nullptr;
   std::size_t offset_ = 0;
 };
 
-/// Calls `leaf(prefix, name, offset, field)` for each field of `record`, in file order; the field's full name
-/// is prefix and name together. Returns the size of the record in bytes.
+/// Calls `leaf(name, offset, field)` for each field of `record`, in file order. Returns the size of the
+/// record in bytes.
 template <class Rec, class Leaf>
 constexpr std::size_t forEachField(Rec& record, Leaf leaf) {
   FieldWalk<Leaf> walk(std::move(leaf));
@@ -200,8 +213,9 @@ constexpr std::size_t forEachField(Rec& record, Leaf leaf) {
 /// As above, for a record that is only looked at.
 template <class Rec, class Leaf>
 constexpr std::size_t forEachField(const Rec& record, Leaf leaf) {
-  const auto look = [&leaf]<class T>(std::string_view prefix, std::string_view name, std::size_t offset,
-                                     T& field) { leaf(prefix, name, offset, static_cast<const T&>(field)); };
+  const auto look = [&leaf]<class T>(const FieldName& name, std::size_t offset, T& field) {
+    leaf(name, offset, static_cast<const T&>(field));
+  };
   // The one field list of a record serves both directions; this walk hands out constant fields only.
   return forEachField(const_cast<Rec&>(record), look);
 }
@@ -209,17 +223,16 @@ constexpr std::size_t forEachField(const Rec& record, Leaf leaf) {
 /// Size of a record in the file, in bytes.
 template <class Rec>
 consteval std::size_t recordSize() {
-  return forEachField(Rec{}, [](std::string_view, std::string_view, std::size_t, const auto&) {});
+  return forEachField(Rec{}, [](const FieldName&, std::size_t, const auto&) {});
 }
 
 /// The record as it lies in the file.
 template <class Rec>
 constexpr std::array<std::byte, recordSize<Rec>()> toBytes(const Rec& record) {
   std::array<std::byte, recordSize<Rec>()> bytes{};
-  forEachField(record,
-               [&bytes]<class T>(std::string_view, std::string_view, std::size_t offset, const T& field) {
-                 FieldCodec<T>::store(field, bytes.data() + offset);
-               });
+  forEachField(record, [&bytes]<class T>(const FieldName&, std::size_t offset, const T& field) {
+    FieldCodec<T>::store(field, bytes.data() + offset);
+  });
   return bytes;
 }
 
@@ -230,7 +243,7 @@ constexpr Rec fromBytes(std::span<const std::byte> bytes) {
   Rec record{};
   auto whole = toBytes(record);
   std::copy_n(bytes.begin(), std::min(bytes.size(), whole.size()), whole.begin());
-  forEachField(record, [&whole]<class T>(std::string_view, std::string_view, std::size_t offset, T& field) {
+  forEachField(record, [&whole]<class T>(const FieldName&, std::size_t offset, T& field) {
     FieldCodec<T>::load(field, whole.data() + offset);
   });
   return record;
@@ -249,11 +262,9 @@ struct FieldDump {
 template <class Rec>
 std::vector<FieldDump> dump(const Rec& record) {
   std::vector<FieldDump> lines;
-  forEachField(record, [&lines]<class T>(std::string_view prefix, std::string_view name, std::size_t offset,
-                                         const T& field) {
+  forEachField(record, [&lines]<class T>(const FieldName& name, std::size_t offset, const T& field) {
     using Codec = FieldCodec<T>;
-    lines.push_back(
-        {std::string(prefix).append(name), offset, Codec::width, Codec::kind, Codec::text(field)});
+    lines.push_back({name.full(), offset, Codec::width, Codec::kind, Codec::text(field)});
   });
   return lines;
 }
