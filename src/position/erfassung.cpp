@@ -100,8 +100,9 @@ void PositionsErfassung::verbindungLesen() {
 bool PositionsErfassung::offsetSchalten(bool an) {
   PositionsDatei& arbeit = u_.formpos.arbeit();
   const std::int16_t punkt = arbeit.Info.MPAktuell;
-  if (an && punkt < 1) return false;
-  const auto index = static_cast<std::size_t>(punkt);
+  // A loaded record's cursor may stand anywhere.
+  if (an && (punkt < 1 || punkt > arbeit.Info.AnzahlMP)) return false;
+  const auto index = static_cast<std::size_t>(an ? punkt : 0);
   arbeit.Info.OffsetAktiv = an;
   arbeit.Info.OffsetMP = an ? punkt : std::int16_t{0};
   arbeit.X.Offset = an ? u_.formpos.punkte().X().at(index) : 0;

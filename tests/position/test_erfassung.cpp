@@ -252,6 +252,17 @@ TEST_F(ErfassungTest, OffsetWithoutAPointIsRefused) {
   EXPECT_FALSE(info().OffsetAktiv);
 }
 
+TEST_F(ErfassungTest, OffsetOfACursorBeyondThePointsIsRefused) {
+  info().RestMP = 1;
+  startRun();
+  run(0.3);
+  for (const int cursor : {2, 32767, -5}) {
+    info().MPAktuell = static_cast<std::int16_t>(cursor);
+    EXPECT_FALSE(task.offsetSchalten(true));
+    EXPECT_TRUE(task.offsetSchalten(false));
+  }
+}
+
 TEST_F(ErfassungTest, CursorStaysWithinThePoints) {
   task.cursorBewegen(1);
   EXPECT_EQ(info().MPAktuell, 0);

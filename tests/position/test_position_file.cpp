@@ -27,12 +27,13 @@ using test::TestFolder;
 class PositionFileTest : public ::testing::Test {
  protected:
   PositionFileTest() {
-    dictionary.texts = {{3019, "Messprotokoll "}, {3048, "Messsystem"}, {3044, "Bezeichnung"}, {3049, "Pfad"},
-                        {3056, "Datum"},          {3008, "Bediener"},   {3009, "Kommentar"},   {3010, "Anzahl"},
-                        {3013, "Filter"},         {3018, "Messwerte"},  {5502, "Position"}};
+    dictionary.texts = {{3019, "Messprotokoll "}, {3048, "Messsystem"}, {3044, "Bezeichnung"},
+                        {3049, "Pfad"},           {3056, "Datum"},      {3008, "Bediener"},
+                        {3009, "Kommentar"},      {3010, "Anzahl"},     {3013, "Filter"},
+                        {3018, "Messwerte"},      {5502, "Position"}};
   }
-  PositionsDateien files(FileSystem& system) {
-    return PositionsDateien({system, messages, meldung, dictionary, profil, formpos});
+  PositionsDateien files(FileSystem& fileSystem) {
+    return PositionsDateien({fileSystem, messages, meldung, dictionary, profil, formpos});
   }
   bool load(const std::string& name) { return files(system).o_DateiLaden(name); }
   bool save(const std::string& name) { return files(system).o_DateiSpeichern(name); }
@@ -175,6 +176,17 @@ TEST_F(PositionFileTest, EveryBadFileIsRefusedAndEveryOddOneShownAsItStands) {
   }
 }
 
+TEST_F(PositionFileTest, CountThatWouldOverrunTheRecordIsRefused) {
+  measure(29999);
+  ASSERT_TRUE(save(folder.path("a.O")));
+  std::string head = test::readFile(folder.path("a.O"));
+  head[667] = 0x30;  // 29999 is 0x752F, 30000 is 0x7530
+  test::writeFile(folder.path("a.O"), head);
+  test::writeFile(folder.path("a.O1"), std::string(24 * 30001, '\0'));
+  EXPECT_FALSE(load(folder.path("a.O")));
+  EXPECT_NE(onlyMessage().text.find("D7331"), std::string::npos);
+}
+
 // ---- Saving ----
 
 TEST_F(PositionFileTest, SaveAfterLoadGivesTheSameBytes) {
@@ -203,7 +215,7 @@ TEST_F(PositionFileTest, FullMeasurementFills720000Bytes) {
   measure(1);
   ASSERT_TRUE(load(folder.path("a.O")));
   EXPECT_EQ(formpos.punkte().X().anzahl(), 29999U);
-  EXPECT_EQ(formpos.punkte().X().at(29999), 29.999);
+  EXPECT_EQ(formpos.punkte().X().at(29999), 29999 * 0.001);
 }
 
 TEST_F(PositionFileTest, CountsOfTheFirstTripleAreThePointsNumber) {
@@ -258,7 +270,8 @@ TEST_F(PositionFileTest, FolderWithoutRightsIsToldAndNothingIsLost) {
   EXPECT_TRUE(test::inChildWithoutRights([&] {
     measure(5);
     const bool saved = save(folder.path("a.O"));
-    return !saved && messages.shown.size() == 1 && messages.shown[0].text.find("D7311") != std::string::npos &&
+    return !saved && messages.shown.size() == 1 &&
+           messages.shown[0].text.find("D7311") != std::string::npos &&
            messages.shown[0].text.find("D7320") != std::string::npos && messages.beeps == 1;
   }));
   EXPECT_EQ(test::readFile(folder.path("a.O")), before);
@@ -319,7 +332,9 @@ TEST_F(PositionFileTest, TextCopyOfTheReferenceWhole) {
   ASSERT_TRUE(files(system).o_AsciiDateiSpeichern(folder.path("copy")));
   const std::string copy = test::readFile(folder.path("copy"));
   const std::string head =
-      "KORVIN-Messprotokoll:\tPr\xFC" "fstelle S\xFC" "d\r\n"
+      "KORVIN-Messprotokoll:\tPr\xFC"
+      "fstelle S\xFC"
+      "d\r\n"
       "Messsystem:\tKORVIN-Position\r\n"
       "Bezeichnung:\tSpindellager\r\n"
       "Pfad:\tC:\\KorFiles\\Punkt.O\r\n"
