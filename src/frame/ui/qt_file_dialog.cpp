@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QRegularExpression>
 
+#include "frame/datei_dialog.h"
 #include "frame/ui/mouse_pointer.h"
 #include "frame/ui/qt_text.h"
 #include "frame/ui/theme.h"
@@ -60,7 +61,7 @@ class CompletingDialog : public QFileDialog {
     if (typedFile().isDir()) return;
     // A file that is there under the name as typed is opened as it is.
     if (acceptMode() == AcceptOpen && typedFile().exists()) return;
-    entry_->setText(completedName(entry_->text(), selectedNameFilter()));
+    entry_->setText(qText(vervollstaendigterName(utf8Text(entry_->text()), utf8Text(selectedNameFilter()))));
   }
 
   QFileInfo typedFile() const { return QFileInfo(directory(), entry_->text()); }
@@ -80,11 +81,6 @@ QStringList nameFilters(const QString& pairs) {
     filters << QStringLiteral("%1 (%2)").arg(words, parts[i + 1]);
   }
   return filters;
-}
-
-QString completedName(const QString& name, const QString& nameFilter) {
-  const QString extension = extensionOf(nameFilter);
-  return name.endsWith(extension, Qt::CaseInsensitive) ? name : name + extension;
 }
 
 std::string QtFileDialog::choose(const FileDialogRequest& request) {

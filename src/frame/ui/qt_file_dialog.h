@@ -18,9 +18,4 @@ class QtFileDialog : public FileDialog {
 /// A pattern in brackets at a text's end is not repeated; a text without a pattern is dropped.
 QStringList nameFilters(const QString& pairs);
 
-/// `name` with the extension of the first pattern in the name filter: "rail" and "rail.txt" become "rail.O"
-/// and "rail.txt.O" for "… (*.O)". A name that has it (in any case) stays; so does every name for "*.?" or
-/// "*.*".
-QString completedName(const QString& name, const QString& nameFilter);
-
 }  // namespace korvin

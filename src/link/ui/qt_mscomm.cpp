@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "frame/ui/qt_text.h"
+#include "link/ui/line_output.h"
 #include "link/ui/port_devices.h"
 
 namespace korvin {
@@ -115,7 +116,11 @@ void QtMSComm::closePort() {
 void QtMSComm::onError(QSerialPort::SerialPortError error) {
   // A failed opening is told by its own exception.
   if (opening_ || isHarmless(error) || !port_.isOpen()) return;
-  lossNumber_ = systemNumber(error);
+  loseLine(systemNumber(error));
+}
+
+void QtMSComm::loseLine(std::int32_t number) {
+  lossNumber_ = number;
   closePort();
 }
 
@@ -131,8 +136,8 @@ std::string QtMSComm::Input() {
 
 void QtMSComm::Output(const std::string& bytes) {
   demandOpen();
-  port_.write(bytes.data(), static_cast<qint64>(bytes.size()));
-  port_.flush();
+  const std::int32_t failure = sendAtOnce(port_, bytes);
+  if (failure != 0) loseLine(failure);
   demandOpen();
 }
 

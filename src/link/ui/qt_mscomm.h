@@ -49,6 +49,7 @@ class QtMSComm : public QObject, public MSComm {
   void startLines();
   void closePort();
   void onError(QSerialPort::SerialPortError error);
+  void loseLine(std::int32_t number);
   void pollDsr();
   void raise(int event);
   /// Throws if the port is not open.

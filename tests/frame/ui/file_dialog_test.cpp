@@ -54,16 +54,6 @@ TEST(NameFiltersTest, PairsBecomeFilters) {
             QStringList{QStringLiteral("Position (*.O)")});
 }
 
-TEST(CompletedNameTest, TheExtensionOfTheKindIsAppendedUnlessThere) {
-  const QString filter = QStringLiteral("Position (*.O)");
-  EXPECT_EQ(completedName(QStringLiteral("rail"), filter), QStringLiteral("rail.O"));
-  EXPECT_EQ(completedName(QStringLiteral("rail.txt"), filter), QStringLiteral("rail.txt.O"));
-  EXPECT_EQ(completedName(QStringLiteral("rail.O"), filter), QStringLiteral("rail.O"));
-  EXPECT_EQ(completedName(QStringLiteral("rail.o"), filter), QStringLiteral("rail.o"));
-  EXPECT_EQ(completedName(QStringLiteral("rail"), QStringLiteral("Alle (*.?)")), QStringLiteral("rail"));
-  EXPECT_EQ(completedName(QStringLiteral("rail"), QStringLiteral("Alle (*.*)")), QStringLiteral("rail"));
-}
-
 TEST_F(QtFileDialogTest, SavingCompletesTheName) {
   EXPECT_EQ(typed(QStringLiteral("rail"), false), path(QStringLiteral("rail.O")));
 }
