@@ -70,10 +70,10 @@ template <class Record>
 Layout actual(std::size_t start) {
   Layout layout;
   const Record record{};
-  korvin::forEachField(
-      record, [&]<class T>(std::string_view, std::string_view name, std::size_t offset, const T&) {
-        layout[start + offset] = {name.starts_with("Reserve") ? "kept" : std::string(name), typeName<T>()};
-      });
+  korvin::forEachField(record, [&]<class T>(const korvin::FieldName& field, std::size_t offset, const T&) {
+    const bool kept = field.name.starts_with("Reserve");
+    layout[start + offset] = {kept ? "kept" : std::string(field.name), typeName<T>()};
+  });
   return layout;
 }
 
