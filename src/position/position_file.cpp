@@ -26,7 +26,9 @@ std::string rechtsGetrimmt(std::string name) {
   return name;
 }
 
-std::string punktName(const std::string& name) { return name + "1"; }
+std::string punktName(const std::string& name) {
+  return name + "1";
+}
 
 /// The point file: triples X, Y, T from index 0, whose three numbers are the count.
 std::vector<std::byte> punkteAlsBytes(const PointStore& punkte, std::size_t anzahl) {
@@ -44,22 +46,26 @@ std::vector<std::byte> punkteAlsBytes(const PointStore& punkte, std::size_t anza
   return bytes;
 }
 
-void punkteAusBytes(std::span<const std::byte> bytes, PointStore& punkte) {
+/// Reads the point file into `punkte`; at most 29999 points. False if one of their numbers is none.
+bool punkteAusBytes(std::span<const std::byte> bytes, PointStore& punkte) {
   const std::size_t anzahl = bytes.size() / tripelLaenge - 1;
-  const std::byte* quelle = bytes.data();
-  const auto lies = [&quelle](double& wert) {
-    FieldCodec<double>::load(wert, quelle);
-    quelle += sizeof(double);
-  };
-  for (std::size_t i = 0; i <= anzahl; ++i) {
-    lies(punkte.X().at(i));
-    lies(punkte.Y().at(i));
-    lies(punkte.T().at(i));
+  auto& x = punkte.X().elements();
+  auto& y = punkte.Y().elements();
+  auto& t = punkte.T().elements();
+  bool endlich = true;
+  const std::byte* quelle = bytes.data() + tripelLaenge;
+  for (std::size_t i = 1; i <= anzahl; ++i, quelle += tripelLaenge) {
+    FieldCodec<double>::load(x[i], quelle);
+    FieldCodec<double>::load(y[i], quelle + sizeof(double));
+    FieldCodec<double>::load(t[i], quelle + 2 * sizeof(double));
+    endlich &= std::isfinite(x[i]) && std::isfinite(y[i]) && std::isfinite(t[i]);
   }
-  // The head's count is the one that was checked against the length.
-  punkte.X().setAnzahl(anzahl);
-  punkte.Y().setAnzahl(anzahl);
-  punkte.T().setAnzahl(anzahl);
+  // The count of the head was checked against the length; those of the first triple are not asked.
+  for (PunktFeld* feld : {&punkte.X(), &punkte.Y(), &punkte.T()}) {
+    feld->setAnzahl(anzahl);
+    feld->clearFrom(anzahl + 1);
+  }
+  return endlich;
 }
 
 bool endlich(const AchsenInfo& a) {
@@ -70,17 +76,6 @@ bool endlich(const AchsenInfo& a) {
 bool endlich(const PositionsDatei& datei) {
   return endlich(datei.X) && endlich(datei.Y) && std::isfinite(datei.Info.StartZeit) &&
          std::isfinite(datei.Info.StopZeit) && std::isfinite(datei.Info.Intervall);
-}
-
-bool endlich(const PunktFeld& werte) {
-  for (std::size_t i = 1; i <= werte.anzahl(); ++i) {
-    if (!std::isfinite(werte.at(i))) return false;
-  }
-  return true;
-}
-
-bool endlich(const PointStore& punkte) {
-  return endlich(punkte.X()) && endlich(punkte.Y()) && endlich(punkte.T());
 }
 
 /// True if a point file of `laenge` bytes holds exactly the points that the head counts.
@@ -95,7 +90,8 @@ bool zahlPasst(std::uint64_t laenge, std::int16_t anzahl) {
 bool PositionsDateien::o_DateiLaden(const std::string& rohName) {
   const std::string name = rechtsGetrimmt(rohName);
   FileGroupReader leser(u_.files, {name, punktName(name)});
-  if (leser.error(0)) return ladenGescheitert(name, leser.error(0).number, dateiGrund(u_.dictionary, leser.error(0), false));
+  if (leser.error(0))
+    return ladenGescheitert(name, leser.error(0).number, dateiGrund(u_.dictionary, leser.error(0), false));
 
   const bool andereLaenge = leser.size(0) != kopfLaenge;
   if (andereLaenge && !frageLaenge()) return ladenGescheitert(name, 0, {});
@@ -109,23 +105,23 @@ bool PositionsDateien::o_DateiLaden(const std::string& rohName) {
   if (leser.error(1)) return ladenGescheitert(name, leser.error(1).number, {});
   if (datei.Info.AnzahlMP > MaxPunkteO) return ladenGescheitert(name, 0, u_.dictionary.DicText(7331));
   if (!zahlPasst(leser.size(1), datei.Info.AnzahlMP)) return ladenGescheitert(name, 0, {});
-  std::vector<std::byte> bytes(leser.size(1));
-  if (const FileError fehler = leser.read(1, bytes)) {
+  bytes_.resize(leser.size(1));
+  if (const FileError fehler = leser.read(1, bytes_)) {
     return ladenGescheitert(name, fehler.number, dateiGrund(u_.dictionary, fehler, false));
   }
-  PointStore punkte;
-  punkteAusBytes(bytes, punkte);
-  if (!endlich(datei) || !endlich(punkte)) return ladenGescheitert(name, 0, u_.dictionary.DicText(7330));
+  if (!punkteAusBytes(bytes_, gelesen_) || !endlich(datei))
+    return ladenGescheitert(name, 0, u_.dictionary.DicText(7330));
 
   datei.Info.Geaendert = andereLaenge;
   u_.formpos.bild() = datei;
-  u_.formpos.punkte().swap(punkte);
+  u_.formpos.punkte().swap(gelesen_);
   return true;
 }
 
 bool PositionsDateien::frageLaenge() {
   u_.meldung = {"KORVIN-" + u_.dictionary.DicText(titelPosition), u_.dictionary.DicText(6010)};
-  return u_.messages.show(u_.meldung, MessageIcon::question, MessageButtons::yesNoCancel) == MessageAnswer::yes;
+  return u_.messages.show(u_.meldung, MessageIcon::question, MessageButtons::yesNoCancel) ==
+         MessageAnswer::yes;
 }
 
 bool PositionsDateien::ladenGescheitert(const std::string& name, int nummer, const std::string& grund) {
@@ -177,7 +173,8 @@ bool PositionsDateien::o_DateiSpeichern(const std::string& rohName) {
 
 bool PositionsDateien::o_AsciiDateiSpeichern(const std::string& rohName) {
   const std::string text = positionTextCopy(u_.formpos.Info(), u_.formpos.punkte(), u_.dictionary);
-  return gespeichert("o_AsciiDateiSpeichern", saveFile(u_.files, rechtsGetrimmt(rohName), textkopieBytes(text)));
+  return gespeichert("o_AsciiDateiSpeichern",
+                     saveFile(u_.files, rechtsGetrimmt(rohName), textkopieBytes(text)));
 }
 
 }  // namespace korvin

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
+#include <vector>
 
 #include "frame/dictionary.h"
 #include "frame/file_system.h"
@@ -21,19 +23,21 @@ struct PositionsDateiUmgebung {
   FORMPOS& formpos;
 };
 
-/// Moves a position measurement to and from disk. A file F holds the head, one record of 789 bytes; F followed by "1" the
-/// points; F followed by "$" is an optional text copy, which is never read. Head and point file are saved as one. Every
-/// operation reports its own failures in a message and answers with a flag. Names are UTF-8.
+/// Moves a position measurement to and from disk. A file F holds the head, one record of 789 bytes; F
+/// followed by "1" the points; F followed by "$" is an optional text copy, which is never read. Head and
+/// point file are saved as one. Every operation reports its own failures in a message and answers with a
+/// flag. Names are UTF-8.
 class PositionsDateien {
  public:
   explicit PositionsDateien(const PositionsDateiUmgebung& umgebung) : u_(umgebung) {}
 
-  /// Reads F into the file image and its points into the store. True on success; after a failure image and points are
-  /// as before. A head of another length is taken on Yes to a question, and `Geaendert` of the image is then set.
+  /// Reads F into the file image and its points into the store. True on success; after a failure image and
+  /// points are as before. A head of another length is taken on Yes to a question, and `Geaendert` of the
+  /// image is then set.
   bool o_DateiLaden(const std::string& name);
 
-  /// Copies the working record to the image and writes F and its points, then, if the setting `AsciiDatei` is true (the
-  /// record's flag plays no part), the text copy. True if all was written.
+  /// Copies the working record to the image and writes F and its points, then, if the setting `AsciiDatei` is
+  /// true (the record's flag plays no part), the text copy. True if all was written.
   bool o_DateiSpeichern(const std::string& name);
 
   /// Writes the text copy of the working record to the file `name`.
@@ -46,6 +50,9 @@ class PositionsDateien {
   bool gespeichert(const char* operation, const SaveResult& result);
 
   PositionsDateiUmgebung u_;
+  // Room for loading, kept: a refused file must leave the points alone, so they are read beside them first.
+  std::vector<std::byte> bytes_;
+  PointStore gelesen_;
 };
 
 }  // namespace korvin
