@@ -50,10 +50,8 @@ double HeadServer::now() const {
 
 bool HeadServer::wait(int stopFd) {
   // A descriptor of −1 is passed over by the system.
-  std::array<pollfd, 4> fds{{{stopFd, POLLIN, 0},
-                             {line_ ? line_->watchFd() : -1, POLLIN, 0},
-                             {line_ ? line_->fd() : -1, POLLIN, 0},
-                             {keysFd_, POLLIN, 0}}};
+  std::array<pollfd, 3> fds{
+      {{stopFd, POLLIN, 0}, {line_ ? line_->fd() : -1, POLLIN, 0}, {keysFd_, POLLIN, 0}}};
   const auto next = machine_.nextMoment();
   const timespec span = spanOf(next ? std::max(0.0, *next - now()) : 0);
   const int ready = ::ppoll(fds.data(), fds.size(), next ? &span : nullptr, nullptr);
@@ -61,9 +59,8 @@ bool HeadServer::wait(int stopFd) {
     throw std::system_error(errno, std::generic_category(), "cannot wait for the line");
   if (ready <= 0) return false;
   if (fds[0].revents != 0) return true;
-  if (fds[1].revents != 0) line_->noticeClients();
-  if (fds[3].revents != 0) readKeys();
-  if (fds[2].revents != 0) receive();
+  if (fds[1].revents != 0) receive();
+  if (fds[2].revents != 0) readKeys();
   return false;
 }
 

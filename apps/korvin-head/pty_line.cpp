@@ -2,14 +2,11 @@
 
 #include <fcntl.h>
 #include <stdlib.h>
-#include <sys/inotify.h>
 #include <termios.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <array>
 #include <cerrno>
-#include <cstring>
 #include <system_error>
 
 namespace korvin::head {
@@ -27,13 +24,6 @@ void makeRaw(int fd) {
   if (::tcsetattr(fd, TCSANOW, &settings) != 0) fail("cannot set the terminal to raw mode");
 }
 
-FileDescriptor watchOf(const std::string& device) {
-  FileDescriptor watch(::inotify_init1(IN_NONBLOCK | IN_CLOEXEC));
-  if (watch.valid() && ::inotify_add_watch(watch.get(), device.c_str(), IN_OPEN | IN_CLOSE) < 0)
-    return FileDescriptor();
-  return watch;
-}
-
 }  // namespace
 
 PtyLine::PtyLine() : master_(::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC)) {
@@ -44,24 +34,33 @@ PtyLine::PtyLine() : master_(::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK | O_C
     fail("cannot prepare the pseudo-terminal");
   }
   device_ = name.data();
-  slave_ = FileDescriptor(::open(name.data(), O_RDWR | O_NOCTTY | O_CLOEXEC));
-  if (!slave_.valid()) fail("cannot open the pseudo-terminal's device");
-  makeRaw(slave_.get());
-  watch_ = watchOf(device_);
+  park();
+  makeRaw(parked_.get());
+}
+
+void PtyLine::park() {
+  parked_ = FileDescriptor(::open(device_.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC));
+  if (!parked_.valid()) fail("cannot open the pseudo-terminal's device");
+  ::tcflush(parked_.get(), TCIFLUSH);
 }
 
 std::string PtyLine::read() {
   std::array<char, 4096> buffer;
   const ssize_t count = ::read(master_.get(), buffer.data(), buffer.size());
-  if (count < 0) {
-    if (errno == EAGAIN || errno == EINTR) return {};
+  if (count >= 0) {
+    parked_ = FileDescriptor();
+    return {buffer.data(), static_cast<std::size_t>(count)};
+  }
+  if (errno == EIO) {
+    park();
+  } else if (errno != EAGAIN && errno != EINTR) {
     fail("cannot read from the pseudo-terminal");
   }
-  return {buffer.data(), static_cast<std::size_t>(count)};
+  return {};
 }
 
 void PtyLine::write(std::string_view bytes) {
-  if (!listenedTo()) return;
+  if (parked_.valid()) return;
   while (!bytes.empty()) {
     const ssize_t count = ::write(master_.get(), bytes.data(), bytes.size());
     if (count < 0 && errno == EINTR) continue;
@@ -72,7 +71,7 @@ void PtyLine::write(std::string_view bytes) {
 
 long PtyLine::baud() const {
   termios settings{};
-  if (::tcgetattr(slave_.get(), &settings) != 0) return 0;
+  if (::tcgetattr(master_.get(), &settings) != 0) return 0;
   switch (::cfgetospeed(&settings)) {
     case B9600:
       return 9600;
@@ -87,27 +86,6 @@ long PtyLine::baud() const {
     default:
       return 0;
   }
-}
-
-bool PtyLine::listenedTo() {
-  if (!watch_.valid()) return true;
-  if (clients_ == 0) noticeClients();  // an opening and its first bytes may be seen in either order
-  return clients_ > 0;
-}
-
-void PtyLine::noticeClients() {
-  if (!watch_.valid()) return;
-  alignas(inotify_event) std::array<char, 4096> buffer;
-  ssize_t count = 0;
-  while ((count = ::read(watch_.get(), buffer.data(), buffer.size())) > 0) {
-    for (ssize_t at = 0; at < count;) {
-      inotify_event event{};
-      std::memcpy(&event, buffer.data() + at, sizeof event);
-      clients_ = std::max(0, clients_ + ((event.mask & IN_OPEN) != 0 ? 1 : -1));
-      at += static_cast<ssize_t>(sizeof event + event.len);
-    }
-  }
-  if (clients_ == 0) ::tcflush(slave_.get(), TCIFLUSH);
 }
 
 }  // namespace korvin::head

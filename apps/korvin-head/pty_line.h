@@ -19,10 +19,8 @@ class PtyLine {
 
   /// Name of the device that programs open.
   const std::string& device() const { return device_; }
-  /// Readable when bytes came.
+  /// Has events for poll() when bytes came or when the device was closed: `read` then.
   int fd() const { return master_.get(); }
-  /// Readable when the device was opened or closed; −1 if the system cannot tell.
-  int watchFd() const { return watch_.get(); }
 
   /// All bytes that are there; empty if there are none. Throws `std::system_error` on a broken line.
   std::string read();
@@ -30,18 +28,15 @@ class PtyLine {
   void write(std::string_view bytes);
   /// Line speed in bits per second as the program has set it; 0 for one that no head has.
   long baud() const;
-  /// Takes note of who opened or closed the device since.
-  void noticeClients();
 
  private:
-  bool listenedTo();
+  void park();
 
   FileDescriptor master_;
-  FileDescriptor
-      slave_;  // keeps the terminal's settings and spares the master its hang-ups between two clients
-  FileDescriptor watch_;
+  // A terminal that no one has open reports a hang-up without end; so the head holds it itself from the
+  // moment when the last program closes it until bytes show that another one is there.
+  FileDescriptor parked_;
   std::string device_;
-  int clients_ = 0;
 };
 
 }  // namespace korvin::head

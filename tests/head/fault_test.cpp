@@ -259,6 +259,14 @@ TEST(Faults, TheSeedDecidesAndOtherFaultsDoNot) {
   EXPECT_NE(strikes(otherSeed, Fault::silence, 100), first);
 }
 
+TEST(Faults, FaultsOfTheSameRateStrikeAtMomentsOfTheirOwn) {
+  FaultSettings settings = with(Fault::silence, {0.3, 0, 0});
+  settings.dose(Fault::late) = {0.3, 0, 0};
+  FaultInjector one(settings);
+  FaultInjector same(settings);
+  EXPECT_NE(strikes(one, Fault::silence, 100), strikes(same, Fault::late, 100));
+}
+
 TEST(Faults, DosesAreReadFromText) {
   const auto rate = parseDose("0.25@10");
   ASSERT_TRUE(rate);

@@ -121,12 +121,11 @@ TEST(Machine, SplitPiecesLeaveOneByOne) {
   head.ask(0, 'T');
   std::string bytes;
   int pieces = 0;
-  for (double now = 0; head.machine.nextMoment(); now = *head.machine.nextMoment()) {
-    for (const std::string& piece : head.machine.step(now).writes) {
+  while (const auto next = head.machine.nextMoment()) {
+    for (const std::string& piece : head.machine.step(*next).writes) {
       bytes += piece;
       ++pieces;
     }
-    if (!head.machine.nextMoment()) break;
   }
   EXPECT_EQ(bytes, answerFrame("1-K-T", 223));
   EXPECT_GE(pieces, 2);
@@ -144,6 +143,7 @@ TEST(Machine, HangsUpAndComesBack) {
   EXPECT_EQ(head.machine.nextMoment(), 4);
   head.ask(2, 'T');
   EXPECT_THAT(head.kinds(3.9), IsEmpty());
+  EXPECT_EQ(head.machine.counters().requests, 2);
   const HeadActions back = head.machine.step(4);
   EXPECT_TRUE(back.comeBack);
   EXPECT_FALSE(back.hangUp);

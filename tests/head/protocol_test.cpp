@@ -107,6 +107,17 @@ TEST(Parser, NoiseBetweenFramesIsIgnored) {
   EXPECT_EQ(parser.feed(kSearch223).at(0).verdict, Verdict::request);
 }
 
+TEST(Parser, AStartWithinAFrameBeginsItAnew) {
+  RequestParser parser(223);
+  EXPECT_EQ(parser
+                .feed("\x17"
+                      "00" +
+                      answerFrame("00--J", 223))
+                .at(0)
+                .verdict,
+            Verdict::request);
+}
+
 TEST(Parser, AFrameWithoutEndDoesNotSwallowTheNext) {
   RequestParser parser(223);
   parser.feed(

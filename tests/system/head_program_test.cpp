@@ -71,9 +71,9 @@ class SerialClient {
     return ::poll(&fd, 1, 5000) > 0;
   }
   /// Whether the line has been hung up.
-  bool lost() const {
+  bool lost(double seconds = 5) const {
     pollfd fd{fd_.get(), POLLIN, 0};
-    return ::poll(&fd, 1, 5000) > 0 && (fd.revents & POLLHUP) != 0;
+    return ::poll(&fd, 1, static_cast<int>(seconds * 1000)) > 0 && (fd.revents & POLLHUP) != 0;
   }
 
  private:
@@ -169,7 +169,7 @@ TEST_F(HeadProgram, KeysFromStandardInput) {
 }
 
 TEST_F(HeadProgram, HangsUpAndReturns) {
-  ChildProgram head("korvin-head", {"--port", "7", "--hang-up", "1x@1", "--hang-up-time", "0.2"},
+  ChildProgram head("korvin-head", {"--port", "7", "--hang-up", "1x@1", "--hang-up-time", "0.4"},
                     environment);
   EXPECT_THAT(head.readLine(), StartsWith("ready 7 /dev/"));
   const SerialClient client(link);
@@ -177,7 +177,7 @@ TEST_F(HeadProgram, HangsUpAndReturns) {
   client.send(requestFrame({'0', '0', 'T'}, 223));
   EXPECT_EQ(head.readLine(), "gone 7");
   EXPECT_FALSE(fs::is_symlink(link));
-  EXPECT_TRUE(client.lost());
+  EXPECT_TRUE(client.lost(0.1));
   EXPECT_THAT(head.readLine(), StartsWith("ready 7 /dev/"));
   EXPECT_EQ(SerialClient(link).ask('T'), kStatus);
 }
@@ -237,6 +237,10 @@ TEST_F(HeadProgram, InProcessItServesAThreadAndSleepsWhileItWaits) {
   HeadConfig config;
   config.linkPath = link;
   config.head.noiseUm = 0;
+  std::array<int, 2> keys{};
+  ASSERT_EQ(::pipe(keys.data()), 0);
+  ::close(keys[1]);
+  config.keysFd = keys[0];  // at its end from the start, as when the input is /dev/null
   HeadServer head(config);
   std::array<int, 2> stop{};
   ASSERT_EQ(::pipe(stop.data()), 0);
@@ -254,6 +258,7 @@ TEST_F(HeadProgram, InProcessItServesAThreadAndSleepsWhileItWaits) {
   ::close(stop[1]);
   runner.join();
   ::close(stop[0]);
+  ::close(keys[0]);
   EXPECT_EQ(head.counters().answers, 1);
   EXPECT_LT(used, 0.05) << "of 0.8 s";
 }
