@@ -26,6 +26,8 @@ class MessfensterAnsicht {
   virtual void zeigeInfo(bool sichtbar) = 0;
   /// `lblMSCommInput(index)`.
   virtual void zeigeServiceZeile(int index, const std::string& text) = 0;
+  /// The body of an answer, for the list of telegrams `LstCamMsg`.
+  virtual void zeigeTelegramm(const std::string& rumpf) = 0;
   /// Text colour of the four value panels.
   virtual void setWertFarbe(Farbe farbe) = 0;
   /// Writes `text` into the four value panels, in place of values.

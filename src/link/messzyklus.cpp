@@ -4,6 +4,7 @@
 #include <exception>
 #include <utility>
 
+#include "frame/cp1252.h"
 #include "frame/number_format.h"
 #include "frame/zahl_text.h"
 #include "link/telegramm.h"
@@ -176,8 +177,11 @@ bool Messzyklus::tickBeginnt() {
 }
 
 bool Messzyklus::frage(char befehl, double limit) {
-  return u_.korCom.KameraAbfrage(control_, anfrage(u_.antwort, aufgabe_.filter(), befehl), limit, u_.antwort,
-                                 marken_.online);
+  const bool online = marken_.online;
+  const std::string nutzdaten = anfrage(u_.antwort, aufgabe_.filter(), befehl);
+  if (!u_.korCom.KameraAbfrage(control_, nutzdaten, limit, u_.antwort, online)) return false;
+  if (online) ansicht_.zeigeTelegramm(vonCp1252(u_.antwort.LetztesTelegramm));
+  return true;
 }
 
 void Messzyklus::tickPolling() {

@@ -453,6 +453,20 @@ TEST_F(MesszyklusTest, ServiceLineHasBodyAndCountersInOrder) {
 
 // ---- Lost link ----
 
+TEST_F(MesszyklusTest, EachAnswerOfTheHeadIsShownAsATelegram) {
+  goOnline();
+  run(0.05);
+  ASSERT_EQ(view.telegrams.size(), 1U);
+  EXPECT_TRUE(view.telegrams[0].starts_with("10K T")) << view.telegrams[0];
+  cycle.anfordern('M');
+  run(0.1);
+  EXPECT_GE(view.telegrams.size(), 3U) << "one of the poll, one of the measurement";
+  cycle.M_KVNSimulation();
+  view.telegrams.clear();
+  run(1);
+  EXPECT_TRUE(view.telegrams.empty()) << "the simulated head sends none";
+}
+
 TEST_F(MesszyklusTest, SilentHeadCyclesThroughAttemptsAndPauses) {
   world.head.behaviour = [](char) { return std::string{}; };
   goOnline();

@@ -21,6 +21,7 @@ class RecordingView : public MessfensterAnsicht {
   void setInfoBild(const std::string& key) override { icons.push_back(key); }
   void zeigeInfo(bool visible) override { infoVisible = visible; }
   void zeigeServiceZeile(int index, const std::string& text) override { serviceLines[index] = text; }
+  void zeigeTelegramm(const std::string& body) override { telegrams.push_back(body); }
   void setWertFarbe(Farbe farbe) override { valueColour = farbe; }
   void zeigeLeereWerte(const std::string& text) override { emptyValues.push_back(text); }
   void zeigeIntensitaet(const std::string& text, Farbe farbe) override {
@@ -53,6 +54,7 @@ class RecordingView : public MessfensterAnsicht {
   std::vector<std::string> icons;
   bool infoVisible = false;
   std::map<int, std::string> serviceLines;
+  std::vector<std::string> telegrams;
   Farbe valueColour = 0;
   std::vector<std::string> emptyValues;
   std::string intensity;

@@ -35,10 +35,10 @@ QByteArray source(const QString& key, bool dark) {
 /// Draws the SVG itself at whatever size is asked for.
 class SvgIconEngine : public QIconEngine {
  public:
-  explicit SvgIconEngine(QString key) : key_(std::move(key)) {}
+  SvgIconEngine(QString key, IconGround ground) : key_(std::move(key)), ground_(ground) {}
 
   void paint(QPainter* painter, const QRect& rectangle, QIcon::Mode mode, QIcon::State /*state*/) override {
-    QSvgRenderer renderer(source(key_, isDark()));
+    QSvgRenderer renderer(source(key_, onDark()));
     renderer.setAspectRatioMode(Qt::KeepAspectRatio);
     painter->save();
     if (mode == QIcon::Disabled) painter->setOpacity(painter->opacity() * 0.35);
@@ -52,7 +52,7 @@ class SvgIconEngine : public QIconEngine {
                              .arg(size.width())
                              .arg(size.height())
                              .arg(int{mode})
-                             .arg(int{isDark()});
+                             .arg(int{onDark()});
     QPixmap picture;
     if (QPixmapCache::find(name, &picture)) return picture;
     picture = QPixmap(size);
@@ -64,23 +64,26 @@ class SvgIconEngine : public QIconEngine {
     return picture;
   }
 
-  QIconEngine* clone() const override { return new SvgIconEngine(key_); }
+  QIconEngine* clone() const override { return new SvgIconEngine(key_, ground_); }
   QString key() const override { return QStringLiteral("korvin_svg"); }
 
  private:
+  bool onDark() const { return ground_ == IconGround::darkPanel || isDark(); }
+
   QString key_;
+  IconGround ground_;
 };
 
 }  // namespace
 
-QIcon icon(const QString& key) {
+QIcon icon(const QString& key, IconGround ground) {
   openIconResource();
   if (key.isEmpty() || !QFile::exists(path(key))) return {};
-  return QIcon(new SvgIconEngine(key));
+  return QIcon(new SvgIconEngine(key, ground));
 }
 
-QPixmap iconPixmap(const QString& key, int side, qreal pixelRatio) {
-  return icon(key).pixmap(QSize(side, side), pixelRatio);
+QPixmap iconPixmap(const QString& key, int side, qreal pixelRatio, IconGround ground) {
+  return icon(key, ground).pixmap(QSize(side, side), pixelRatio);
 }
 
 }  // namespace korvin

@@ -1,0 +1,302 @@
+#include "position/ui/form_position.h"
+
+#include <QAction>
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QMenuBar>
+#include <array>
+#include <utility>
+
+#include "frame/montage.h"
+#include "frame/ui/qt_text.h"
+#include "frame/ui/theme.h"
+#include "frame/zahl_text.h"
+#include "position/panel_texts.h"
+
+namespace korvin {
+namespace {
+
+using Kind = KeyToolBar::Kind;
+
+constexpr int TimerUhrMs = 100;
+constexpr std::int16_t TextKamera = 3003;
+constexpr std::int16_t TextWartetAufStart = 7224;
+constexpr std::int16_t Inch = 1;
+
+/// The toolbar, in its order; a line without a key is a gap between groups.
+constexpr std::array<TastenZeile, 24> Tasten = {{{"NEU", "ICON1", Kind::push, "Ctrl+N", 2000},
+                                                 {"LOESCHEN", "ICON48", Kind::push, "Ctrl+Del", 2038},
+                                                 {"EINRICHTEN", "ICON46", Kind::push, "", 2037, true},
+                                                 {"LADEN", "ICON3", Kind::push, "Ctrl+O", 2002},
+                                                 {"SPEICHERN", "ICON2", Kind::push, "Ctrl+S", 2001},
+                                                 {"DRUCKEN", "ICON4", Kind::push, "", 2003, true},
+                                                 {},
+                                                 {"STATISTIK", "ICON5", Kind::check, "", 2009, true},
+                                                 {"x", "ICON24", Kind::check, "", 2010, true},
+                                                 {"s", "ICON25", Kind::check, "", 2011, true},
+                                                 {"R", "ICON26", Kind::check, "", 2012, true},
+                                                 {"NZOOM", "ICON23", Kind::check, "F8", 2039},
+                                                 {"XYAMPL", "ICON6", Kind::check, "", 3061, true},
+                                                 {},
+                                                 {"MPL", "ICON10", Kind::push, "Left", 2019},
+                                                 {"MPR", "ICON9", Kind::push, "Right", 7170},
+                                                 {"ALLE", "ICONALLE", Kind::check, "", 7171, true},
+                                                 {"OFFSET", "ICONOFFSET", Kind::check, "F9", 7172},
+                                                 {},
+                                                 {"XYMP1", "ICON81", Kind::check, "F5", 7173},
+                                                 {"XYMPN", "ICONXYMPN", Kind::check, "F6", 7174},
+                                                 {"XYMPNN", "ICONXYMPNN", Kind::check, "F7", 7175},
+                                                 {},
+                                                 {"HILFE", "ICONHILFE", Kind::push, "F1", 7176}}};
+
+}  // namespace
+
+FormPosition::FormPosition(const PositionUmgebung& umgebung, QWidget* parent)
+    : Messfenster(umgebung.zyklus, umgebung.MSCommKamera, umgebung.erfassung, parent),
+      p_(umgebung),
+      dateiInfo_(umgebung.zyklus.dictionary, this),
+      befehle_({p_.zyklus.clock, p_.zyklus.messages, p_.fileDialog, dateiInfo_, p_.zyklus.dictionary,
+                p_.zyklus.profil, p_.zyklus.meldung, p_.zyklus.system, p_.formpos, p_.erfassung, p_.dateien}),
+      punkte_(p_.formpos.punkte(), p_.formpos.arbeit()),
+      TimerUhr_(p_.zyklus.timers.create()) {
+  setObjectName(QStringLiteral("FormPosition"));
+  tastenAnlegen(QStringLiteral("tbrPosition"), Tasten);
+  menusAnlegen();
+  layoutAnlegen();
+  beschriften();
+  TimerUhr_->setInterval(TimerUhrMs);
+  TimerUhr_->onTick = [this] { panels_->zeigeUhr(qText(panelZeit(p_.zyklus.clock.now()))); };
+}
+
+// ---- Building ----
+
+void FormPosition::menusAnlegen() {
+  QMenu* datei = menuAnlegen("M_Datei", 7180);
+  menuEintrag(
+      datei, "M_Neu", 1002, [this] { M_Neu(); }, "NEU");
+  menuEintrag(
+      datei, "M_Oeffnen", 1007, [this] { M_Oeffnen(); }, "LADEN");
+  menuEintrag(
+      datei, "M_Speichern", 7181, [this] { M_Speichern(); }, "SPEICHERN");
+  menuEintrag(datei, "M_SpeichernUnter", 7182, [this] {
+    M_SpeichernUnter();
+  })->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
+  datei->addSeparator();
+  menuEintrag(
+      datei, "M_ProtokollDrucken", 7183, [] {}, "DRUCKEN");
+  datei->addSeparator();
+  menuEintrag(datei, "M_Beenden", 1024, [this] { close(); });
+
+  QMenu* messung = menuAnlegen("M_Messung", 1001);
+  menuEintrag(
+      messung, "M_SingleMeas", 7185, [this] { drueckeTaste("XYMP1"); }, "XYMP1");
+  menuEintrag(
+      messung, "M_PJustage", 7186, [this] { drueckeTaste("XYMPN"); }, "XYMPN");
+  menuEintrag(
+      messung, "M_QJustage", 7187, [this] { drueckeTaste("XYMPNN"); }, "XYMPNN");
+  messung->addSeparator();
+  menuEintrag(
+      messung, "M_MessLöschen", 7188, [this] { M_MessLöschen(); }, "LOESCHEN");
+
+  QMenu* ansicht = menuAnlegen("M_Panel", 7190);
+  M_xyNumZoom_ = menuEintrag(
+      ansicht, "M_xyNumZoom", 7191, [this] { M_xyNumZoom(); }, "NZOOM");
+  M_xyNumZoom_->setCheckable(true);
+  kommtSpaeter(menuEintrag(ansicht, "M_Gitter", 7192, [] {}));
+
+  verbindungsMenu();
+  menuEintrag(
+      menuAnlegen("M_Extras", 1025), "M_EinrichtInfo", 7189, [] {}, "EINRICHTEN");
+  menuEintrag(
+      menuAnlegen("M_HilfeMenu", 1052), "M_Hilfe", 1052, [this] { drueckeTaste("HILFE"); }, "HILFE");
+}
+
+void FormPosition::layoutAnlegen() {
+  liste_ = new PointList(punkte_, mitte());
+  liste_->onChosen = [this](int nummer) { cursor(nummer - Info().MPAktuell); };
+  zoom_ = new PositionZoom(mitte());
+  flaeche_ = new QStackedWidget(mitte());
+  flaeche_->addWidget(liste_);
+  flaeche_->addWidget(zoom_);
+  panels_ = new PositionPanels(&kopf(), mitte());
+  wertfelder = panels_->werte() + zoom_->werte();
+
+  auto* reihe = new QHBoxLayout(mitte());
+  reihe->setContentsMargins(0, 0, 0, 0);
+  reihe->setSpacing(scaled(10));
+  reihe->addWidget(flaeche_, 58);
+  reihe->addWidget(panels_, 42);
+  liste_->setFocus();
+}
+
+void FormPosition::beschriften() {
+  const QString einheit =
+      p_.zyklus.system.Masssystem == Inch ? QStringLiteral("[mil]") : QStringLiteral("[mm]");
+  const QString luecke = QStringLiteral(" ");
+  punkte_.setHeadings(
+      {dicText(7150), dicText(7151), dicText(7152) + luecke + einheit, dicText(7153) + luecke + einheit});
+  liste_->setEmptyText(dicText(7155));
+  liste_->setAccessibleName(dicText(7154));
+  panels_->setTexte(dictionary(), einheit);
+  zoom_->setEinheit(einheit);
+  tasten().setWords(QStringLiteral("XYAMPL"), QStringLiteral("XY-") + dicText(3061) + spaeterHinweis());
+}
+
+// ---- Showing ----
+
+void FormPosition::ersteAktivierung() {
+  p_.erfassung.ersteAktivierung();
+  Anzeige_ = true;
+  datenZeigen();
+  zyklus().M_KVNOnline();
+}
+
+void FormPosition::datenZeigen() {
+  const PositionsInfo& info = Info();
+  kopfZeigen();
+  tasten().setPressed(QStringLiteral("OFFSET"), static_cast<bool>(info.OffsetAktiv));
+  tasten().setPressed(QStringLiteral("ALLE"), !info.NurAktuell);
+  tasten().setPressed(QStringLiteral("x"), static_cast<bool>(info.ZeigeMittel));
+  tasten().setPressed(QStringLiteral("s"), static_cast<bool>(info.ZeigeStreuung));
+  tasten().setPressed(QStringLiteral("R"), static_cast<bool>(info.ZeigeSpanne));
+  numZoomZeigen();
+  titelZeigen();
+  werteAnpassen();
+  liste_->reload();
+  neuZeichnen(false);
+}
+
+void FormPosition::kopfZeigen() {
+  kopf().setMontage(qText(MontageBild(Info().Montage)));
+  // Asking for the filter's text also sets the time limits of the telegrams.
+  const std::string filter = p_.zyklus.korCom.FilterText(p_.zyklus.system.FilterVorgabe, dictionary());
+  if (!zyklus().verbindung().simulation)
+    kopf().setKamera(dicText(TextKamera) + QStringLiteral(": ") + qText(filter));
+}
+
+void FormPosition::titelZeigen() {
+  setWindowTitle(qText(fensterTitel(Info(), dictionary())));
+}
+
+void FormPosition::werteAnpassen() {
+  const bool inch = p_.zyklus.system.Masssystem == Inch;
+  const QString ganze = inch ? QStringLiteral("-000") : QStringLiteral("-00");
+  const QString breitester = ganze + qText(ZahlMuster(Info().NKStellen)).mid(1);
+  for (ValuePanel* feld : wertfelder) feld->setWidestText(breitester);
+}
+
+void FormPosition::neuZeichnen(bool geaendert) {
+  if (!Anzeige_) return;
+  if (geaendert) Info().Geaendert = true;
+  const PositionsTexte texte = positionsTexte(p_.formpos);
+  panels_->zeigeWerte(texte);
+  zoom_->zeige(texte);
+  liste_->follow();
+  statusZeigen(texte);
+}
+
+void FormPosition::statusZeigen(const PositionsTexte& texte) {
+  panels_->zeigeStatus(texte);
+  const bool plan = texte.StartZeit || texte.StopZeit;
+  if (TimerUhr_->enabled() != plan)
+    panels_->zeigeUhr(plan ? qText(panelZeit(p_.zyklus.clock.now())) : QString());
+  TimerUhr_->setEnabled(plan);
+  betriebZeigen();
+}
+
+void FormPosition::setTasteFrei(const std::string& taste, bool frei) {
+  Messfenster::setTasteFrei(taste, frei);
+  // A run has begun or ended, and with its end the plan is gone.
+  statusZeigen(positionsTexte(p_.formpos));
+}
+
+std::int16_t FormPosition::betriebText() {
+  const std::int16_t text = Messfenster::betriebText();
+  return text == TextLaufend && Info().StartAktiv ? TextWartetAufStart : text;
+}
+
+void FormPosition::numZoomZeigen() {
+  const auto an = static_cast<bool>(p_.formpos.arbeit().X.NumZoom);
+  tasten().setPressed(QStringLiteral("NZOOM"), an);
+  M_xyNumZoom_->setChecked(an);
+  flaeche_->setCurrentWidget(an ? static_cast<QWidget*>(zoom_) : liste_);
+}
+
+// ---- Closing ----
+
+bool FormPosition::schliessenErlaubt() {
+  return befehle_.aenderungenBehandelt();
+}
+
+void FormPosition::wirdEntladen() {
+  TimerUhr_->setEnabled(false);
+}
+
+// ---- Commands ----
+
+void FormPosition::taste(const QString& key, bool gedrueckt) {
+  if (key == QLatin1String("NEU")) M_Neu();
+  if (key == QLatin1String("LOESCHEN")) M_MessLöschen();
+  if (key == QLatin1String("LADEN")) M_Oeffnen();
+  if (key == QLatin1String("SPEICHERN")) M_Speichern();
+  if (key == QLatin1String("NZOOM")) M_xyNumZoom();
+  if (key == QLatin1String("MPL")) cursor(-1);
+  if (key == QLatin1String("MPR")) cursor(1);
+  if (key == QLatin1String("OFFSET")) offset(gedrueckt);
+  if (key == QLatin1String("HILFE") && p_.hilfe) p_.hilfe();
+}
+
+void FormPosition::M_Neu() {
+  ausserhalbDesTakts([this] {
+    if (befehle_.M_Neu([this] { zyklus().laufBeenden(); })) datenZeigen();
+  });
+}
+
+void FormPosition::M_Oeffnen() {
+  ausserhalbDesTakts([this] {
+    if (befehle_.M_Oeffnen([this] { zyklus().laufBeenden(); })) datenZeigen();
+  });
+}
+
+void FormPosition::M_Speichern() {
+  ausserhalbDesTakts([this] {
+    befehle_.M_Speichern();
+    titelZeigen();
+  });
+}
+
+void FormPosition::M_SpeichernUnter() {
+  ausserhalbDesTakts([this] {
+    befehle_.M_SpeichernUnter();
+    titelZeigen();
+  });
+}
+
+void FormPosition::M_MessLöschen() {
+  ausserhalbDesTakts([this] {
+    p_.erfassung.M_MessLöschen();
+    service().leeren();
+    datenZeigen();
+  });
+}
+
+void FormPosition::M_xyNumZoom() {
+  PositionsDatei& arbeit = p_.formpos.arbeit();
+  const bool an = !arbeit.X.NumZoom;
+  arbeit.X.NumZoom = an;
+  arbeit.Y.NumZoom = an;
+  numZoomZeigen();
+}
+
+void FormPosition::offset(bool an) {
+  const bool genommen = p_.erfassung.offsetSchalten(an);
+  tasten().setPressed(QStringLiteral("OFFSET"), an && genommen);
+  neuZeichnen(false);
+}
+
+void FormPosition::cursor(int schritt) {
+  p_.erfassung.cursorBewegen(schritt);
+  neuZeichnen(false);
+}
+
+}  // namespace korvin

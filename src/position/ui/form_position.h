@@ -1,0 +1,84 @@
+#pragma once
+
+#include <QStackedWidget>
+#include <functional>
+#include <memory>
+
+#include "frame/file_dialog.h"
+#include "link/ui/measuring_window.h"
+#include "position/commands.h"
+#include "position/erfassung.h"
+#include "position/formpos.h"
+#include "position/ui/form_datei_info.h"
+#include "position/ui/point_list.h"
+#include "position/ui/position_panels.h"
+
+namespace korvin {
+
+/// What `FormPosition` works with, beside what every measuring window needs. All outlive it.
+struct PositionUmgebung {
+  ZyklusUmgebung zyklus;
+  MSComm& MSCommKamera;
+  FORMPOS& formpos;
+  PositionsErfassung& erfassung;
+  PositionsDateien& dateien;
+  FileDialog& fileDialog;
+  std::function<void()> hilfe;  ///< opens the help
+};
+
+/// `FormPosition`: watches one point of the beam over time. Lays out its panels, forwards clicks to the
+/// commands and the cycle, and paints what they leave in the record. Language and units are those of the
+/// moment when it is shown.
+class FormPosition : public Messfenster {
+  Q_OBJECT
+ public:
+  explicit FormPosition(const PositionUmgebung& umgebung, QWidget* parent = nullptr);
+
+ protected:
+  void ersteAktivierung() override;
+  bool schliessenErlaubt() override;
+  void taste(const QString& key, bool gedrueckt) override;
+  void wirdEntladen() override;
+  std::int16_t betriebText() override;
+  void neuZeichnen(bool geaendert) override;
+  void setTasteFrei(const std::string& taste, bool frei) override;
+
+ private:
+  void layoutAnlegen();
+  void menusAnlegen();
+  void beschriften();
+
+  /// Shows all of the record anew: after the first activation, New, Open and Delete.
+  void datenZeigen();
+  void kopfZeigen();
+  void titelZeigen();
+  /// Room for the widest value in the four value panels.
+  void werteAnpassen();
+  void statusZeigen(const PositionsTexte& texte);
+  void numZoomZeigen();
+
+  void M_Neu();
+  void M_Oeffnen();
+  void M_Speichern();
+  void M_SpeichernUnter();
+  void M_MessLöschen();
+  void M_xyNumZoom();
+  void offset(bool an);
+  void cursor(int schritt);
+
+  PositionsInfo& Info() { return p_.formpos.Info(); }
+
+  PositionUmgebung p_;
+  QtDateiInfoDialog dateiInfo_;
+  PositionsBefehle befehle_;
+  PointListModel punkte_;
+  PointList* liste_ = nullptr;
+  PositionPanels* panels_ = nullptr;
+  PositionZoom* zoom_ = nullptr;
+  QStackedWidget* flaeche_ = nullptr;
+  QAction* M_xyNumZoom_ = nullptr;
+  std::unique_ptr<Timer> TimerUhr_;
+  bool Anzeige_ = false;
+};
+
+}  // namespace korvin
