@@ -91,7 +91,11 @@ bool KorCom::ComOeffnen(MSComm& control, std::int16_t port, const std::string& s
 }
 
 void KorCom::ComSchliessen(MSComm& control) {
-  if (control.PortOpen()) control.setPortOpen(false);
+  try {
+    if (control.PortOpen()) control.setPortOpen(false);
+  } catch (const CommError&) {
+    // A line that is gone is closed.
+  }
 }
 
 void KorCom::KameraSenden(MSComm& control, std::string_view nutzdaten, KameraAntwort& antwort) {

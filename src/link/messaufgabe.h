@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <string>
 
 #include "link/kamera_antwort.h"
@@ -44,9 +43,9 @@ struct LinkAngaben {
 /// What the next tick of a running measurement does.
 struct LaufSchritt {
   enum class Art {
-    senden,       ///< send `befehl`
-    beenden,      ///< the run is over
-    unterbrochen  ///< a wait was broken off by a closing window or a pressed key
+    senden,   ///< send `befehl`
+    warten,   ///< send nothing; the next tick decides anew
+    beenden,  ///< the run is over
   } art = Art::senden;
   char befehl = 'J';
 };
@@ -70,8 +69,8 @@ class Messaufgabe {
 
   /// A run begins; `sekunden` is the time of day.
   virtual void laufBeginnt(float sekunden) = 0;
-  /// Decides what the next tick of the run does. A wait inside must end when `unterbrochen` turns true.
-  virtual LaufSchritt laufSchritt(const std::function<bool()>& unterbrochen) = 0;
+  /// Decides what the present tick of the run does.
+  virtual LaufSchritt laufSchritt() = 0;
   /// True when the run has taken all its points.
   virtual bool laufFertig() const = 0;
   /// The run is over, for whatever reason.

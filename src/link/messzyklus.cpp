@@ -44,12 +44,14 @@ Messzyklus::Messzyklus(const ZyklusUmgebung& umgebung, MSComm& control, Messaufg
   tmrKeyPressed_->onTick = [this] { tickKeyPressed(); };
   tmrInfoToggle_->onTick = [this] { tickInfoToggle(); };
   control_.OnComm = [this] { onComm(); };
-  u_.korCom.aufgeben = [this] { return schliessen_; };
+  u_.korCom.aufgeben = [lebt = std::weak_ptr(lebt_)] {
+    const auto zyklus = lebt.lock();
+    return !zyklus || (*zyklus)->schliessen_;
+  };
 }
 
 Messzyklus::~Messzyklus() {
   control_.OnComm = nullptr;
-  u_.korCom.aufgeben = nullptr;
 }
 
 // ---- Connecting ----
@@ -66,7 +68,7 @@ void Messzyklus::M_KVNOnline() {
   marken_ = {true, true, false};
   ansicht_.zeigeVerbindung(marken_);
   u_.system.LinkFarbe = FarbeGruen;
-  tmrPolling_->setEnabled(true);
+  tmrPolling_->setEnabled(!laeuft_);
 }
 
 void Messzyklus::M_KVNSimulation() {
@@ -161,7 +163,17 @@ void Messzyklus::tick(void (Messzyklus::*arbeit)()) {
   }
   if (entladen_) return;
   imTick_ = false;
-  for (const auto& befehl : std::exchange(wartendeBefehle_, {})) befehl();
+  wartendesTun();
+}
+
+void Messzyklus::wartendesTun() {
+  for (const auto& befehl : std::exchange(wartendeBefehle_, {})) {
+    try {
+      befehl();
+    } catch (const std::exception&) {
+      verbindungVerloren();
+    }
+  }
 }
 
 bool Messzyklus::tickBeginnt() {
@@ -225,6 +237,11 @@ void Messzyklus::statusIcons() {
 }
 
 void Messzyklus::zustandAuswerten() {
+  // A closing window begins nothing more: its data are saved or given up already.
+  if (schliessen_) {
+    tmrPolling_->setEnabled(true);
+    return;
+  }
   switch (tastenzustand_) {
     case 'M':
     case 'S':
@@ -284,28 +301,30 @@ void Messzyklus::laufStarten(bool schnell) {
 
 void Messzyklus::tickJ() {
   if (tickBeginnt()) return;
-  const auto unterbrochen = [this] { return schliessen_ || tastenzustand_ == 'J' || tastenzustand_ == 'Q'; };
-  const LaufSchritt schritt = aufgabe_.laufSchritt(unterbrochen);
-  if (schritt.art == LaufSchritt::Art::unterbrochen && schliessen_) {
-    tickBeginnt();
-    return;
-  }
-  if (schritt.art != LaufSchritt::Art::senden) {
+  const LaufSchritt schritt = aufgabe_.laufSchritt();
+  if (schritt.art == LaufSchritt::Art::beenden) {
     laufBeenden();
     return;
   }
-  if (!frage(schritt.befehl, u_.korCom.JustageZeitLimit())) {
+  if (schritt.art == LaufSchritt::Art::senden && !frage(schritt.befehl, u_.korCom.JustageZeitLimit())) {
     verbindungVerloren();
     return;
   }
-  if (laufTaktFortsetzen()) {
+  // A command may have ended the run while the answer was awaited.
+  if (!laeuft_) {
+    tmrPolling_->setEnabled(true);
+    return;
+  }
+  if (schritt.art == LaufSchritt::Art::senden) antwortImLauf();
+  if (laufGehtWeiter(schritt)) {
+    tmrPolling_->setEnabled(false);
     tmrJ_->setEnabled(true);
   } else {
     laufBeenden();
   }
 }
 
-bool Messzyklus::laufTaktFortsetzen() {
+void Messzyklus::antwortImLauf() {
   const char art = u_.antwort.Antwortart;
   if (art == 'j' || (art == 'm' && aufgabe_.beschreibung().mAlsLauftelegramm)) {
     uebernehmen();
@@ -313,7 +332,11 @@ bool Messzyklus::laufTaktFortsetzen() {
     icon(IconFrage);
   }
   statusIcons();
-  if (u_.antwort.Taste == 'J' || tastenzustand_ == 'Q' || tastenzustand_ == 'J') return false;
+}
+
+bool Messzyklus::laufGehtWeiter(const LaufSchritt& schritt) {
+  if (schritt.art == LaufSchritt::Art::senden && u_.antwort.Taste == 'J') return false;
+  if (tastenzustand_ == 'Q' || tastenzustand_ == 'J') return false;
   return !aufgabe_.laufFertig();
 }
 

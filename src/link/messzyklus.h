@@ -36,9 +36,9 @@ struct ZyklusUmgebung {
 
 /// The measuring cycle of every window: polling, keys, info icons, quality check, reconnect, trigger line,
 /// starts and ends of runs, closing in two steps. Driven by timer ticks; exactly one of `tmrPolling` and
-/// `tmrJ` runs at a time, and neither during a transaction. Toolbar clicks that arrive while a transaction
-/// waits only set `Tastenzustand`; the next tick acts. Any run-time failure inside a tick ends in the link
-/// recovery.
+/// `tmrJ` runs at a time, and no tick acts during a transaction. Toolbar clicks that arrive while a
+/// transaction waits only set `Tastenzustand`; the next tick acts. Any run-time failure inside a tick ends in
+/// the link recovery.
 class Messzyklus {
  public:
   Messzyklus(const ZyklusUmgebung& umgebung, MSComm& control, Messaufgabe& aufgabe,
@@ -94,7 +94,9 @@ class Messzyklus {
   void zustandAuswerten();
   void einzelmessung();
   void laufStarten(bool schnell);
-  bool laufTaktFortsetzen();
+  void antwortImLauf();
+  bool laufGehtWeiter(const LaufSchritt& schritt);
+  void wartendesTun();
   void statusIcons();
   bool frage(char befehl, double limit);
   void uebernehmen();
@@ -121,6 +123,8 @@ class Messzyklus {
   bool infoFrisch_ = false;  ///< the tag of `imgInfo`
   Farbe led_ = FarbeGrau;
   std::vector<std::function<void()>> wartendeBefehle_;
+  /// Gone with the cycle: what outlives it can tell.
+  std::shared_ptr<const Messzyklus*> lebt_ = std::make_shared<const Messzyklus*>(this);
 };
 
 }  // namespace korvin

@@ -1,6 +1,5 @@
 #include "link/scan_rs.h"
 
-#include <cmath>
 #include <string>
 
 #include "frame/zahl_text.h"
@@ -10,8 +9,8 @@ namespace {
 
 constexpr double PauseProPort = 0.05;
 
-int gespeicherteZahl(Profil& profil, const Einstellung& einstellung) {
-  return static_cast<int>(std::lround(zahlAusText(profil.wert(einstellung))));
+std::int16_t gespeicherteZahl(Profil& profil, const Einstellung& einstellung) {
+  return ganzzahlAusText(profil.wert(einstellung));
 }
 
 /// Opens, asks and closes. `antwortete` tells whether a head answered.
@@ -42,8 +41,10 @@ bool durchsuchen(SuchUmgebung& u, SuchAnsicht& ansicht, const std::string& setti
 }  // namespace
 
 bool ScanRS(SuchUmgebung& u, SuchAnsicht& ansicht) {
+  // A search that midnight overtakes goes on with the next port: no one could close its dialog.
+  u.korCom.aufgeben = [] { return true; };
   ansicht.beginne(0, 2 * LetzterPort, 1);
-  const auto port = static_cast<std::int16_t>(gespeicherteZahl(u.profil, einstellung::ScanRS::PortNr));
+  const std::int16_t port = gespeicherteZahl(u.profil, einstellung::ScanRS::PortNr);
   if (antwortet(u, port, SettingsAusBaudRate(gespeicherteZahl(u.profil, einstellung::ScanRS::BaudRate))))
     return true;
   return durchsuchen(u, ansicht, Settings115200, 0) || durchsuchen(u, ansicht, Settings19200, LetzterPort);

@@ -25,6 +25,13 @@ char spalte(std::string_view rumpf, std::size_t nummer) {
   return rumpf.size() < nummer ? ' ' : rumpf[nummer - 1];
 }
 
+/// Six digits as a raw count.
+double rohwert(std::string_view feld) {
+  const double wert = zahlAusText(feld);
+  if (!(std::abs(wert) <= 999999)) throw std::overflow_error("count beyond six digits");
+  return wert;
+}
+
 std::int16_t gerundet16(double wert) {
   constexpr double hoechste = std::numeric_limits<std::int16_t>::max();
   return static_cast<std::int16_t>(std::lround(std::clamp(wert, -hoechste, hoechste)));
@@ -81,8 +88,8 @@ bool antwortZerlegen(std::string_view rumpf, KameraAntwort& antwort) {
     return false;
   }
   if (antwort.Antwortart == 'm' || antwort.Antwortart == 'j') {
-    antwort.RohX = zahlAusText(spalten(rumpf, 7, 12));
-    antwort.RohY = zahlAusText(spalten(rumpf, 14, 19));
+    antwort.RohX = rohwert(spalten(rumpf, 7, 12));
+    antwort.RohY = rohwert(spalten(rumpf, 14, 19));
     antwort.Wert3 = zahlAusText(spalten(rumpf, 21, 25));
     antwort.Intensitaet = gerundet16(zahlAusText(spalten(rumpf, 27, 28)));
   }

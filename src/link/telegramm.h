@@ -44,7 +44,8 @@ RahmenSuche rahmenSuchen(std::string_view puffer);
 bool istAntwortart(char art);
 
 /// Columns 1 to 5 of `rumpf`; true if the kind is known. An unknown kind becomes '?'. With kinds m and j the
-/// numbers are parsed too; a missing or blank field gives 0.
+/// numbers are parsed too; a missing or blank field gives 0. A count of more than
+/// six digits is none a head can send and throws `std::overflow_error`: stored, it would spoil all sums.
 bool antwortZerlegen(std::string_view rumpf, KameraAntwort& antwort);
 
 }  // namespace korvin

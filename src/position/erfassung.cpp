@@ -20,7 +20,6 @@ namespace verbindung = einstellung::Verbindung;
 
 // The interval clock keeps this far away from midnight, in seconds of the day.
 constexpr double letzteSekunde = 86398;
-constexpr std::chrono::milliseconds mitternachtSchlaf{50};
 constexpr std::int16_t inch = 1;
 
 /// A setting as record text. What does not fit the record's character set leaves `sonst`: it was not entered
@@ -35,6 +34,12 @@ bool flag(Profil& profil, const Einstellung& einstellung) {
 
 std::int16_t zahl(Profil& profil, const Einstellung& einstellung) {
   return ganzzahlAusText(profil.wert(einstellung));
+}
+
+void anzeigeBehalten(AchsenInfo& achse, const AchsenInfo& vorher) {
+  achse.Bereich = vorher.Bereich;
+  achse.BereichHand = vorher.BereichHand;
+  achse.NumZoom = vorher.NumZoom;
 }
 
 std::string messordner(Profil& profil, const Systemwerte& system) {
@@ -55,8 +60,12 @@ void PositionsErfassung::ersteAktivierung() {
 
 void PositionsErfassung::neueMessung() {
   PositionsDatei& arbeit = u_.formpos.arbeit();
-  // Bytes that nothing sets are 0 in a new measurement.
+  const PositionsDatei vorher = arbeit;
+  // Bytes that nothing sets are 0 in a new measurement; how the window shows it stays as the user left it.
   arbeit = PositionsDatei{};
+  anzeigeBehalten(arbeit.X, vorher.X);
+  anzeigeBehalten(arbeit.Y, vorher.Y);
+  arbeit.Info.NurAktuell = vorher.Info.NurAktuell;
   PositionsInfo& info = arbeit.Info;
   Profil& profil = u_.profil;
   info.FirmaName = recordText(profil, vorgaben::FirmaName, "");
@@ -81,6 +90,7 @@ void PositionsErfassung::neueMessung() {
 
 void PositionsErfassung::bildUebernehmen() {
   u_.formpos.bildUebernehmen();
+  u_.formpos.Info().DateiStatus = 1;  // loaded, whatever the file's own bytes say
   verbindungLesen();
 }
 
@@ -172,7 +182,7 @@ void PositionsErfassung::wertUebernehmen(const KameraAntwort& antwort) {
   u_.formpos.punktHinzufuegen(u_.clock.now());
 }
 
-LaufSchritt PositionsErfassung::laufSchritt(const std::function<bool()>& unterbrochen) {
+LaufSchritt PositionsErfassung::laufSchritt() {
   const PositionsInfo& info = u_.formpos.Info();
   if (info.AnzahlMP >= MaxPunkteO) {
     grenzeMelden();
@@ -182,7 +192,11 @@ LaufSchritt PositionsErfassung::laufSchritt(const std::function<bool()>& unterbr
   // Without a start time the interval has no effect: quick readings follow each other.
   char befehl = 'J';
   if (laeuftIntervall_) {
-    if (!mitternachtAbwarten(unterbrochen)) return {LaufSchritt::Art::unterbrochen, ' '};
+    if (mitternachtNah()) {
+      // The next point comes as soon as the clock has wrapped.
+      naechsteMessung_ = 0;
+      return {LaufSchritt::Art::warten, ' '};
+    }
     befehl = intervallBefehl();
   }
   if (info.StartAktiv) befehl = startzeitBefehl();
@@ -197,22 +211,20 @@ void PositionsErfassung::grenzeMelden() {
   u_.messages.show(u_.meldung, MessageIcon::warning, MessageButtons::ok);
 }
 
-bool PositionsErfassung::mitternachtAbwarten(const std::function<bool()>& unterbrochen) {
+bool PositionsErfassung::mitternachtNah() const {
   const PositionsInfo& info = u_.formpos.Info();
   const double grenze = letzteSekunde - info.Intervall - 2 * zahlAusText(info.Filter.trimmed());
-  while (static_cast<double>(u_.clock.secondsOfDay()) > grenze) {
-    naechsteMessung_ = 0;
-    if (unterbrochen()) return false;
-    u_.pump.waitForEvents(mitternachtSchlaf);
-  }
-  return true;
+  return static_cast<double>(u_.clock.secondsOfDay()) > grenze;
 }
 
 char PositionsErfassung::intervallBefehl() {
   const float jetzt = u_.clock.secondsOfDay();
+  const double intervall = u_.formpos.Info().Intervall;
+  // A reading that itself crossed midnight leaves a moment that no clock of this day reaches: it is due now.
+  const bool verpasst = naechsteMessung_ - static_cast<double>(jetzt) > intervall + 1;
   // Times of day are compared as 32-bit floats everywhere.
-  if (static_cast<float>(naechsteMessung_) > jetzt) return 'T';
-  naechsteMessung_ = static_cast<double>(jetzt) + u_.formpos.Info().Intervall;
+  if (!verpasst && static_cast<float>(naechsteMessung_) > jetzt) return 'T';
+  naechsteMessung_ = static_cast<double>(jetzt) + intervall;
   return 'M';
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 
 #include "frame/clock.h"
 #include "frame/dictionary.h"
@@ -60,7 +59,7 @@ class PositionsErfassung : public Messaufgabe {
   void setFilter(char stufe) override;
   std::int16_t nkStellen() const override;
   void laufBeginnt(float sekunden) override;
-  LaufSchritt laufSchritt(const std::function<bool()>& unterbrochen) override;
+  LaufSchritt laufSchritt() override;
   bool laufFertig() const override;
   void laufBeendet() override;
   void wertUebernehmen(const KameraAntwort& antwort) override;
@@ -73,7 +72,7 @@ class PositionsErfassung : public Messaufgabe {
  private:
   void verbindungLesen();
   void grenzeMelden();
-  bool mitternachtAbwarten(const std::function<bool()>& unterbrochen);
+  bool mitternachtNah() const;
   char intervallBefehl();
   char startzeitBefehl();
 

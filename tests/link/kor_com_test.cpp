@@ -65,10 +65,95 @@ TEST_F(KorComTest, FailedOpeningIsCountedWithItsNumber) {
 
 TEST_F(KorComTest, OnlyTheFirstErrorsNumberIsKept) {
   open();
-  head.broken = true;
+  head.receive("\x17" + std::string(200, '\xFF') + "\x1B");  // an overflow, number 6
+  korCom.KameraEmpfang(head, antwort);
+  head.broken = true;  // then number 5, again and again
   ask();
-  EXPECT_EQ(antwort.ERR, 5);
-  EXPECT_GT(antwort.COM, 1);
+  EXPECT_EQ(antwort.ERR, 6);
+  EXPECT_GT(antwort.COM, 2);
+}
+
+TEST_F(KorComTest, CharactersRaiseNoEventsBeforeThePortIsOpen) {
+  open();
+  EXPECT_EQ(head.rThresholds, (std::vector<int>{0, 1}));
+}
+
+TEST_F(KorComTest, FirstOfTwoFramesIsLostWithoutACount) {
+  open();
+  head.receive(answerFrame(answerBody('j', 'K', 111111)) + answerFrame(answerBody('j', 'K', 222222)));
+  EXPECT_TRUE(korCom.KameraEmpfang(head, antwort));
+  EXPECT_EQ(antwort.RohX, 222222);
+  EXPECT_EQ(antwort.BCC, 0);
+  EXPECT_EQ(antwort.COM, 0);
+  EXPECT_FALSE(korCom.KameraEmpfang(head, antwort));
+}
+
+TEST_F(KorComTest, BadFrameSetsTheStatus) {
+  open();
+  antwort.Status = ' ';
+  head.receive(
+      "\x17"
+      "10K T!\x1B");
+  EXPECT_FALSE(korCom.KameraEmpfang(head, antwort));
+  EXPECT_EQ(antwort.Status, '9');
+}
+
+TEST_F(KorComTest, EventsRunAfterAGoodAnswerToo) {
+  open();
+  bool ran = false;
+  head.receive("");
+  head.behaviour = [&](char) {
+    clock.after(0.01, [&] { clock.after(0, [&] { ran = true; }); });
+    return answerFrame(answerBody('T'));
+  };
+  EXPECT_TRUE(ask());
+  EXPECT_TRUE(ran);
+}
+
+TEST_F(KorComTest, AnswerThatArrivedDuringALongPauseStillCounts) {
+  open();
+  head.delay = 0.1;
+  // A dialog that opens from inside the wait holds it up far beyond its limit.
+  clock.after(0.05, [this] { clock.advance(10); });
+  EXPECT_TRUE(ask("02--T", 0.5));
+  EXPECT_EQ(head.sent.size(), 1U);
+}
+
+TEST_F(KorComTest, GivingUpIsAskedOnlyPastMidnight) {
+  open();
+  head.delay = 0.4;
+  korCom.aufgeben = [] { return true; };
+  EXPECT_TRUE(ask("02--T", 0.5));
+}
+
+TEST_F(KorComTest, WaitingCharactersAreCountedUpToSixteenBits) {
+  open();
+  head.receive(std::string(40000, 'x'));
+  korCom.KameraEmpfang(head, antwort);
+  EXPECT_EQ(antwort.ICA, 32767);
+}
+
+TEST_F(KorComTest, IdIsOneDigit) {
+  ASSERT_TRUE(korCom.ComOeffnen(head, 1, Settings115200, "12", antwort));
+  EXPECT_EQ(antwort.KameraNr, 9);
+  ASSERT_TRUE(korCom.ComOeffnen(head, 1, Settings115200, "x", antwort));
+  EXPECT_EQ(antwort.KameraNr, 0);
+}
+
+TEST_F(KorComTest, CountNoHeadCanSendIsARunTimeErrorAndStoresNothing) {
+  open();
+  antwort.RohX = 250000;
+  head.nextAnswer(answerFrame("10K j 9e9999 250000     0 80"));
+  clock.after(0.2, [this] { head.receive(answerFrame(answerBody('j', 'K', 250100))); });
+  EXPECT_TRUE(ask("02--J"));
+  EXPECT_EQ(antwort.RohX, 250100);
+  EXPECT_EQ(antwort.COM, 1);
+}
+
+TEST_F(KorComTest, ClosingALineThatIsGoneIsNoFailure) {
+  open();
+  head.brokenClosing = true;
+  EXPECT_NO_THROW(korCom.ComSchliessen(head));
 }
 
 TEST_F(KorComTest, ATransactionTakesOneAttemptWithAHeadOfTheNewModulus) {

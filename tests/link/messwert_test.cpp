@@ -81,9 +81,9 @@ TEST(Position, InvertsYAndTurnsByTheMounting) {
 }
 
 TEST(Position, InchGivesMil) {
-  const auto [x, y] = positionAusRoh(reading(250254, 250000), true, 0);
+  const auto [x, y] = positionAusRoh(reading(250254, 250508), true, 0);
   EXPECT_DOUBLE_EQ(x, 1.0);
-  EXPECT_EQ(y, 0.0);
+  EXPECT_DOUBLE_EQ(y, -2.0);
 }
 
 TEST(Mounting, UnknownNumberLeavesThePair) {

@@ -313,7 +313,7 @@ TEST_F(MesszyklusTest, RunEndsWhenItsPointsAreTaken) {
 }
 
 TEST_F(MesszyklusTest, RunEndsWhenTheTaskSaysSoBeforeSending) {
-  task.step = [](const auto&) { return LaufSchritt{LaufSchritt::Art::beenden, 'J'}; };
+  task.step = [] { return LaufSchritt{LaufSchritt::Art::beenden, 'J'}; };
   startRun();
   run(0.1);
   EXPECT_FALSE(cycle.laeuft());
@@ -321,7 +321,7 @@ TEST_F(MesszyklusTest, RunEndsWhenTheTaskSaysSoBeforeSending) {
 }
 
 TEST_F(MesszyklusTest, StatusAnswersInARunAreNoReadings) {
-  task.step = [](const auto&) { return LaufSchritt{LaufSchritt::Art::senden, 'T'}; };
+  task.step = [] { return LaufSchritt{LaufSchritt::Art::senden, 'T'}; };
   startRun();
   run(1);
   EXPECT_TRUE(task.readings.empty());
@@ -605,29 +605,195 @@ TEST_F(MesszyklusTest, ClosingDuringTheReconnectComesThrough) {
   EXPECT_EQ(view.unloads, 1);
 }
 
-TEST_F(MesszyklusTest, ClosingBreaksOffALongWaitOfARun) {
-  task.step = [this](const std::function<bool()>& interrupted) {
-    while (!interrupted()) world.clock.waitForEvents(std::chrono::milliseconds{20});
-    return LaufSchritt{LaufSchritt::Art::unterbrochen, 'J'};
-  };
-  goOnline();
-  cycle.anfordern('J');
-  world.clock.after(10, [this] { cycle.schliessenAnfordern(); });
-  run(11);
+TEST_F(MesszyklusTest, WaitingRunSendsNothingAndCanBeClosed) {
+  task.step = [] { return LaufSchritt{LaufSchritt::Art::warten, ' '}; };
+  startRun();
+  const std::size_t sent = world.head.sent.size();
+  run(10);
+  EXPECT_EQ(world.head.sent.size(), sent);
+  EXPECT_TRUE(cycle.laeuft());
+  cycle.schliessenAnfordern();
+  run(0.1);
   EXPECT_EQ(view.unloads, 1);
 }
 
-TEST_F(MesszyklusTest, KeyBreaksOffALongWaitOfARun) {
-  task.step = [this](const std::function<bool()>& interrupted) {
-    while (!interrupted()) world.clock.waitForEvents(std::chrono::milliseconds{20});
-    return LaufSchritt{LaufSchritt::Art::unterbrochen, 'J'};
-  };
+TEST_F(MesszyklusTest, WaitingRunEndsByItsKeyAndLetsCommandsThrough) {
+  task.step = [] { return LaufSchritt{LaufSchritt::Art::warten, ' '}; };
+  startRun();
+  run(1);
+  bool done = false;
+  world.clock.after(0.001, [&] { cycle.nachTick([&] { done = true; }); });
+  run(0.1);
+  EXPECT_TRUE(done);
+  cycle.anfordern('J');
+  run(0.1);
+  EXPECT_FALSE(cycle.laeuft());
+  EXPECT_TRUE(cycle.tmrPolling().enabled());
+}
+
+TEST_F(MesszyklusTest, HeadsLastKeyDoesNotEndAWaitingRun) {
+  task.step = [] { return LaufSchritt{LaufSchritt::Art::warten, ' '}; };
+  goOnline();
+  headKey('J');  // the answer that starts the run still holds the key
+  run(1);
+  EXPECT_TRUE(cycle.laeuft());
+}
+
+TEST_F(MesszyklusTest, RunEndedByACommandDuringATransactionTakesNoMoreReadings) {
+  world.head.delay = 0.3;
   goOnline();
   cycle.anfordern('J');
-  world.clock.after(10, [this] { cycle.anfordern('J'); });
-  run(11);
-  EXPECT_EQ(view.unloads, 0);
+  run(0.5);
+  ASSERT_TRUE(cycle.laeuft());
+  const std::size_t taken = task.readings.size();
+  bool ended = false;
+  world.head.behaviour = [&](char command) {
+    if (!ended) world.clock.after(0.1, [&] { cycle.laufBeenden(); });
+    ended = true;
+    return answerFrame(answerBody(command == 'J' ? 'j' : 'T'));
+  };
+  run(3);
+  EXPECT_LE(task.readings.size(), taken + 1);
   EXPECT_FALSE(cycle.laeuft());
+  EXPECT_TRUE(cycle.tmrPolling().enabled() || cycle.imTick());
+  EXPECT_EQ(world.head.commands.back(), 'T');
+}
+
+TEST_F(MesszyklusTest, GoingOnlineInARunDoesNotStallIt) {
+  startRun();
+  cycle.M_KVNOnline();
+  EXPECT_FALSE(cycle.tmrPolling().enabled());
+  world.clock.after(0.02, [this] { cycle.tmrPolling().setEnabled(true); });
+  run(1);
+  const std::size_t taken = task.readings.size();
+  run(2);
+  EXPECT_GT(task.readings.size(), taken);
+}
+
+TEST_F(MesszyklusTest, ClosingDuringAPollBeginsNoMeasurement) {
+  world.head.delay = 0.2;
+  goOnline();
+  world.clock.after(0.1, [this] {
+    cycle.anfordern('M');
+    cycle.schliessenAnfordern();
+  });
+  run(1);
+  EXPECT_TRUE(task.readings.empty());
+  EXPECT_EQ(view.unloads, 1);
+  EXPECT_TRUE(view.hourglass);
+}
+
+TEST_F(MesszyklusTest, FailingCommandEndsInTheRecoveryAndTheNextOneStillRuns) {
+  goOnline();
+  bool next = false;
+  world.clock.after(0.035, [&] {
+    cycle.nachTick([] { throw std::out_of_range("table"); });
+    cycle.nachTick([&] { next = true; });
+  });
+  run(5);
+  EXPECT_TRUE(view.raised("ICONFUNK"));
+  EXPECT_TRUE(next);
+}
+
+TEST_F(MesszyklusTest, WaitingCommandsAreDroppedWithTheWindow) {
+  goOnline();
+  bool done = false;
+  view.onUnload = [&] { cycle.nachTick([&] { done = true; }); };
+  cycle.schliessenAnfordern();
+  run(1);
+  EXPECT_EQ(view.unloads, 1);
+  EXPECT_FALSE(done);
+}
+
+TEST_F(MesszyklusTest, HeadsKeyRestartsTheLapseOfTheRequest) {
+  goOnline();
+  cycle.anfordern('J');
+  world.clock.after(0.02, [this] { world.head.key = 'M'; });
+  run(0.045);
+  EXPECT_EQ(task.readings.size(), 1U) << "the head's key replaces a request";
+}
+
+TEST_F(MesszyklusTest, KeyPressedJustBeforeItsTimerFiresCanBeLost) {
+  // The press does not come through a restart of the timer here: the poll under way ends after it has fired.
+  world.head.delay = 0.4;
+  goOnline();
+  cycle.tmrKeyPressed().setInterval(100);
+  world.clock.after(0.1, [this] { cycle.anfordern('M'); });
+  run(2);
+  EXPECT_TRUE(task.readings.empty());
+}
+
+TEST_F(MesszyklusTest, RtsRisesAfterAMeasurementOnlyWhileTheTriggerHolds) {
+  goOnline();
+  world.head.rtsHistory.clear();
+  cycle.anfordern('M');
+  run(0.3);
+  EXPECT_TRUE(world.head.rtsHistory.empty());
+}
+
+TEST_F(MesszyklusTest, RunUsesTheShortLimit) {
+  world.korCom.FilterText('4', world.dictionary);  // 20 s single, 5 s running
+  goOnline();
+  world.head.behaviour = [](char command) {
+    return command == 'J' ? std::string{} : answerFrame(answerBody('T'));
+  };
+  cycle.anfordern('J');
+  const double start = world.clock.elapsed();
+  run(0.2);
+  EXPECT_NEAR(world.clock.elapsed() - start, 3 * 5 + 2, 0.5);
+}
+
+TEST_F(MesszyklusTest, RefusedReadingRedrawsMarksChangedAndStartsTheIcon) {
+  goOnline();
+  world.head.intensity = 99;
+  cycle.anfordern('M');
+  run(0.2);
+  EXPECT_EQ(view.redraws, 1);
+  EXPECT_TRUE(view.changed);
+  EXPECT_TRUE(cycle.tmrInfoToggle().enabled());
+}
+
+TEST_F(MesszyklusTest, LargeHeadsRangeCounts) {
+  world.head.behaviour = [](char command) {
+    return answerFrame(answerBody(command == 'M' ? 'm' : 'T', 'K', 250000 + 60000, 250000, 80, '2'));
+  };
+  goOnline();
+  Farbe colour = 0;
+  task.onReading = [&] { colour = view.valueColour; };
+  cycle.anfordern('M');
+  run(0.2);
+  EXPECT_EQ(colour, FarbeGelb);
+}
+
+TEST_F(MesszyklusTest, ValueOutOfRangeTurnsYellowWhenTheMeasurementHasEnded) {
+  goOnline();
+  world.head.x = 250000 + 30000;
+  Farbe colour = 0;
+  task.onReading = [&] { colour = view.valueColour; };
+  cycle.anfordern('M');
+  run(0.2);
+  EXPECT_EQ(colour, FarbeRot);
+  EXPECT_EQ(view.valueColour, FarbeGelb);
+}
+
+TEST_F(MesszyklusTest, SimulationSetsTheSmallRange) {
+  world.korCom.setSensorHalbbereich(7.1);
+  cycle.M_KVNSimulation();
+  EXPECT_EQ(world.korCom.SensorHalbbereich(), 2.1);
+}
+
+TEST_F(MesszyklusTest, SimulationInARunStartsNoPolling) {
+  startRun();
+  cycle.M_KVNSimulation();
+  EXPECT_FALSE(cycle.tmrPolling().enabled());
+}
+
+TEST_F(MesszyklusTest, NothingIsReopenedForAClosingWindow) {
+  world.head.behaviour = [](char) { return std::string{}; };
+  goOnline();
+  world.clock.after(1.0, [this] { cycle.schliessenAnfordern(); });
+  run(5);
+  EXPECT_EQ(world.head.opened.size(), 1U);
 }
 
 TEST_F(MesszyklusTest, CommandsWaitForTheEndOfATick) {

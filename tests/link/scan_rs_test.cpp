@@ -111,6 +111,23 @@ TEST_F(ScanTest, SilentPortsTakeThreeAttemptsEach) {
   EXPECT_NEAR(world.clock.elapsed(), 5 * 1.5 + 32 * 0.05, 0.3);
 }
 
+TEST_F(ScanTest, StoredNumberBeyondSixteenBitsIsNoOtherPort) {
+  store("65539", "1");
+  world.head.onlyPort = 3;
+  EXPECT_TRUE(scan());
+  EXPECT_NE(world.head.opened.front(), 3);
+  EXPECT_EQ(stored("PortNr"), "3");
+}
+
+TEST_F(ScanTest, SearchOvertakenByMidnightGoesOn) {
+  store("1", "1");
+  portsUpTo(2);
+  world.clock.setNow(45000 + 86399.0 / 86400.0);
+  world.head.behaviour = [](char) { return std::string{}; };
+  EXPECT_FALSE(scan());
+  EXPECT_LT(world.clock.elapsed(), 60);
+}
+
 TEST_F(ScanTest, MissingSettingsCountAsZero) {
   world.head.onlyPort = 1;
   EXPECT_TRUE(scan());

@@ -86,6 +86,19 @@ TEST(Telegramm, ColumnsOfAnAnswer) {
   EXPECT_EQ(antwort.Intensitaet, 64);
 }
 
+TEST(Telegramm, IntensityIsRounded) {
+  KameraAntwort antwort;
+  ASSERT_TRUE(antwortZerlegen("10K m 250000 250000     0 .5", antwort));
+  EXPECT_EQ(antwort.Intensitaet, 1);
+}
+
+TEST(Telegramm, CountsBeyondSixDigitsAreRefused) {
+  KameraAntwort antwort;
+  EXPECT_THROW(antwortZerlegen("10K j 1e9999 250000     0 80", antwort), std::overflow_error);
+  EXPECT_THROW(antwortZerlegen("10K j 250000 -1e300     0 80", antwort), std::overflow_error);
+  EXPECT_NO_THROW(antwortZerlegen("10K j 999999 000000     0 80", antwort));
+}
+
 TEST(Telegramm, MissingNumbersAreZero) {
   KameraAntwort antwort;
   antwort.RohX = 5;

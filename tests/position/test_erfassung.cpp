@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "frame/leerwert.h"
 #include "support/recording_view.h"
 
 namespace korvin {
@@ -76,7 +77,7 @@ TEST_F(ErfassungTest, NewMeasurementReadsTheStoredSettings) {
 }
 
 TEST_F(ErfassungTest, LoadedFileKeepsItsRecordButTakesTheLinkSettings) {
-  formpos.bild().Info.DateiStatus = 1;
+  formpos.bild().Info.DateiStatus = 2;
   formpos.bild().Info.Filter = "3";
   formpos.bild().Info.PortNr = 9;
   formpos.bild().Info.Bezeichnung = "Spindel";
@@ -84,6 +85,7 @@ TEST_F(ErfassungTest, LoadedFileKeepsItsRecordButTakesTheLinkSettings) {
   task.ersteAktivierung();
   EXPECT_EQ(info().Bezeichnung.trimmed(), "Spindel");
   EXPECT_EQ(info().PortNr, 1);
+  EXPECT_EQ(info().DateiStatus, 1);
   EXPECT_EQ(world.system.FilterVorgabe, '3');
 }
 
@@ -198,6 +200,90 @@ TEST_F(ErfassungTest, MidnightWaitLetsTheWindowClose) {
   EXPECT_EQ(count('M'), 1U);
 }
 
+TEST_F(ErfassungTest, FirstReadingAcrossMidnightDoesNotLoseTheNight) {
+  world.clock.setNow(45000 + 86399.8 / 86400.0);
+  world.head.delay = 0.4;
+  info().Intervall = 30;
+  info().StartAktiv = true;
+  info().StartZeit = world.clock.now();
+  startRun();
+  run(100);
+  EXPECT_GE(info().AnzahlMP, 4);
+}
+
+TEST_F(ErfassungTest, IntervalClockOfOneRunDoesNotReachIntoTheNext) {
+  info().Intervall = 10;
+  info().StartAktiv = true;
+  info().StartZeit = world.clock.now();
+  info().RestMP = 1;
+  startRun();
+  run(1);
+  ASSERT_TRUE(task.LaeuftIntervall());
+  ASSERT_FALSE(cycle.laeuft());
+  info().RestMP = -1;
+  startRun();
+  run(2);
+  EXPECT_FALSE(task.LaeuftIntervall());
+  EXPECT_GT(info().AnzahlMP, 10);
+}
+
+TEST_F(ErfassungTest, EndOfARunDropsThePlan) {
+  info().StartAktiv = true;
+  info().StartZeit = world.clock.now() + 1;
+  info().StopAktiv = true;
+  info().StopZeit = world.clock.now() + 2;
+  startRun();
+  run(1);
+  cycle.anfordern('J');
+  run(1);
+  EXPECT_FALSE(cycle.laeuft());
+  EXPECT_FALSE(info().StartAktiv);
+  EXPECT_FALSE(info().StopAktiv);
+}
+
+TEST_F(ErfassungTest, TimesCountFromTheirVeryMoment) {
+  info().StopAktiv = true;
+  info().StopZeit = world.clock.now();
+  EXPECT_EQ(task.laufSchritt().art, LaufSchritt::Art::beenden);
+  info().StopAktiv = false;
+  info().StartAktiv = true;
+  info().StartZeit = world.clock.now();
+  EXPECT_EQ(task.laufSchritt().befehl, 'M');
+  info().Intervall = 0;
+  EXPECT_EQ(task.laufSchritt().befehl, 'M') << "the moment itself is due";
+}
+
+TEST_F(ErfassungTest, MidnightIsNearFromTwoSecondsBefore) {
+  info().StartAktiv = true;
+  info().StartZeit = world.clock.now();
+  info().Filter = "0";
+  task.laufSchritt();
+  world.clock.setNow(45000 + 86397.9 / 86400.0);
+  EXPECT_EQ(task.laufSchritt().art, LaufSchritt::Art::senden);
+  world.clock.setNow(45000 + 86398.5 / 86400.0);
+  EXPECT_EQ(task.laufSchritt().art, LaufSchritt::Art::warten);
+  EXPECT_EQ(task.NaechsteMessung(), 0);
+}
+
+TEST_F(ErfassungTest, NewMeasurementKeepsTheDisplayAndDropsThePoints) {
+  startRun();
+  run(0.3);
+  formpos.arbeit().X.BereichHand = 1;
+  formpos.arbeit().X.Bereich = 0.5;
+  formpos.arbeit().Y.NumZoom = true;
+  info().NurAktuell = true;
+  info().Reserve9.bytes[3] = 7;
+  task.neueMessung();
+  EXPECT_EQ(formpos.arbeit().X.BereichHand, 1);
+  EXPECT_EQ(formpos.arbeit().X.Bereich, 0.5);
+  EXPECT_TRUE(formpos.arbeit().Y.NumZoom);
+  EXPECT_TRUE(info().NurAktuell);
+  EXPECT_EQ(info().Reserve9.bytes[3], 0);
+  EXPECT_EQ(info().AnzahlMP, 0);
+  EXPECT_EQ(formpos.punkte().X().at(1), Leerwert);
+  EXPECT_EQ(formpos.arbeit().X.Maximum, Leerwert);
+}
+
 TEST_F(ErfassungTest, FastRunKeepsFurtherAwayFromMidnight) {
   // 86398 - 2 x 7 is 86384: at 86393 a fast run's second point has to wait, a normal run's (2 x 2) has not.
   for (const char key : {'Q', 'J'}) {
@@ -207,7 +293,7 @@ TEST_F(ErfassungTest, FastRunKeepsFurtherAwayFromMidnight) {
     info().StartZeit = world.clock.now();
     info().RestMP = 2;
     startRun(key);
-    run(0.3);
+    run(20);
     ASSERT_EQ(info().AnzahlMP, 2);
     EXPECT_EQ(formpos.punkte().T().at(2) >= 45001, key == 'Q');
   }
@@ -233,6 +319,7 @@ TEST_F(ErfassungTest, OffsetTakesThePointUnderTheCursor) {
   run(0.2);
   info().MPAktuell = 1;
   formpos.arbeit().X.BereichAlt = 5;
+  formpos.arbeit().Y.BereichAlt = 5;
   ASSERT_TRUE(task.offsetSchalten(true));
   EXPECT_TRUE(info().OffsetAktiv);
   EXPECT_EQ(info().OffsetMP, 1);
@@ -240,6 +327,7 @@ TEST_F(ErfassungTest, OffsetTakesThePointUnderTheCursor) {
   EXPECT_DOUBLE_EQ(formpos.arbeit().Y.Offset, -0.03);
   EXPECT_EQ(formpos.arbeit().X.Summe, 0);
   EXPECT_EQ(formpos.arbeit().X.BereichAlt, 0);
+  EXPECT_EQ(formpos.arbeit().Y.BereichAlt, 0);
   ASSERT_TRUE(task.offsetSchalten(false));
   EXPECT_FALSE(info().OffsetAktiv);
   EXPECT_EQ(info().OffsetMP, 0);
@@ -290,11 +378,16 @@ TEST_F(ErfassungTest, DeletingThePointsDropsTheOffsetToo) {
   startRun();
   run(0.2);
   task.offsetSchalten(true);
+  formpos.arbeit().X.BereichAlt = 5;
+  formpos.arbeit().Y.BereichAlt = 5;
   task.M_MessLöschen();
   EXPECT_EQ(info().AnzahlMP, 0);
   EXPECT_FALSE(info().OffsetAktiv);
+  EXPECT_EQ(info().OffsetMP, 0);
   EXPECT_EQ(formpos.arbeit().X.Offset, 0);
   EXPECT_EQ(formpos.arbeit().Y.Offset, 0);
+  EXPECT_EQ(formpos.arbeit().X.BereichAlt, 0);
+  EXPECT_EQ(formpos.arbeit().Y.BereichAlt, 0);
 }
 
 }  // namespace

@@ -82,9 +82,7 @@ class RecordingTask : public Messaufgabe {
   bool tastenGesperrt() const override { return keysLocked; }
   std::int16_t nkStellen() const override { return 3; }
   void laufBeginnt(float) override { ++runsBegun; }
-  LaufSchritt laufSchritt(const std::function<bool()>& interrupted) override {
-    return step ? step(interrupted) : LaufSchritt{};
-  }
+  LaufSchritt laufSchritt() override { return step ? step() : LaufSchritt{}; }
   bool laufFertig() const override { return pointsLeft == 0; }
   void laufBeendet() override { ++runsEnded; }
   void wertUebernehmen(const KameraAntwort& answer) override {
@@ -100,7 +98,7 @@ class RecordingTask : public Messaufgabe {
   int runsBegun = 0;
   int runsEnded = 0;
   std::vector<KameraAntwort> readings;
-  std::function<LaufSchritt(const std::function<bool()>&)> step;
+  std::function<LaufSchritt()> step;
   std::function<void()> onReading;
 };
 

@@ -22,6 +22,7 @@ std::string answerFrame(const std::string& body, int modulus) {
 }
 
 void ScriptedHead::setPortOpen(bool open) {
+  if (!open && brokenClosing) throw CommError(5, "line lost");
   if (open) {
     opened.push_back(port_);
     openedSettings.push_back(settings_);

@@ -29,7 +29,10 @@ class ScriptedHead : public MSComm {
   std::string Settings() const override { return settings_; }
   void setPortOpen(bool open) override;
   bool PortOpen() const override { return open_; }
-  void setRThreshold(int characters) override { rThreshold = characters; }
+  void setRThreshold(int characters) override {
+    rThreshold = characters;
+    rThresholds.push_back(characters);
+  }
   int InBufferCount() override;
   std::string Input() override;
   void Output(const std::string& bytes) override;
@@ -58,8 +61,9 @@ class ScriptedHead : public MSComm {
   std::optional<std::int16_t> onlyPort;  ///< if set, the head is behind this port
   std::int32_t openError = 0;            ///< if not 0, opening fails with it
   std::function<std::int32_t(std::int16_t port)> openErrorOfPort;
-  bool broken = false;  ///< every read and write throws
-  char key = 'K';       ///< key that the default behaviour reports, for one answer
+  bool brokenClosing = false;  ///< closing throws
+  bool broken = false;         ///< every read and write throws
+  char key = 'K';              ///< key that the default behaviour reports, for one answer
   int x = 250000, y = 250000, intensity = 80;
   char status = ' ';
 
@@ -70,6 +74,7 @@ class ScriptedHead : public MSComm {
   std::vector<std::string> openedSettings;
   std::vector<bool> rtsHistory;
   int rThreshold = 0;
+  std::vector<int> rThresholds;
 
  private:
   std::string defaultAnswer(char command);
