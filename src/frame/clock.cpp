@@ -18,7 +18,8 @@ LocalTime localTime() {
   const std::time_t whole = std::chrono::system_clock::to_time_t(seconds);
   LocalTime out;
   localtime_r(&whole, &out.calendar);
-  out.fraction = std::chrono::duration<double>(present - std::chrono::system_clock::from_time_t(whole)).count();
+  out.fraction =
+      std::chrono::duration<double>(present - std::chrono::system_clock::from_time_t(whole)).count();
   return out;
 }
 

@@ -14,8 +14,8 @@ struct Meldung {
   std::string MsgText;
 };
 
-/// Shows message boxes. A port. Closing the box by its corner answers `cancel` where there is a Cancel button, else the
-/// least harmful button (`no`, `ok`).
+/// Shows message boxes. A port. Closing the box by its corner answers `cancel` where there is a Cancel
+/// button, else the least harmful button (`no`, `ok`).
 class MessagePort {
  public:
   virtual ~MessagePort() = default;

@@ -4,8 +4,8 @@
 
 namespace korvin {
 
-/// The end of the program on the spot, for failures without which nothing can be shown. A port. It must not be caught
-/// by a handler of `std::exception`: in tests it throws a type of its own.
+/// The end of the program on the spot, for failures without which nothing can be shown. A port. It must not
+/// be caught by a handler of `std::exception`: in tests it throws a type of its own.
 class ProgramEnd {
  public:
   virtual ~ProgramEnd() = default;

@@ -39,7 +39,9 @@ std::string_view filterzeit(char stufe) {
   }
 }
 
-std::string wert(double zahl) { return istLeer(zahl) ? "?.?" : formatNumber(zahl, "0.0000"); }
+std::string wert(double zahl) {
+  return istLeer(zahl) ? "?.?" : formatNumber(zahl, "0.0000");
+}
 
 std::string rechtsGetrimmt(std::string text) {
   text.erase(text.find_last_not_of(' ') + 1);

@@ -9,14 +9,14 @@ namespace korvin::test {
 /// What `FaultyFileSystem` throws where the process is to die.
 struct Died {};
 
-/// The real file system with faults: one call, or all calls from one on, fail with a number, or the process dies at it.
-/// Counts all calls that a fault can strike.
+/// The real file system with faults: one call, or all calls from one on, fail with a number, or the process
+/// dies at it. Counts all calls that a fault can strike.
 class FaultyFileSystem : public PosixFileSystem {
  public:
-  int calls = 0;       ///< calls so far
-  int failAt = 0;      ///< the call that fails, counted from 1; 0: none
-  int number = 0;      ///< its errno; 0: the process dies (`Died`)
-  bool stays = false;  ///< all calls from there on fail
+  int calls = 0;                 ///< calls so far
+  int failAt = 0;                ///< the call that fails, counted from 1; 0: none
+  int number = 0;                ///< its errno; 0: the process dies (`Died`)
+  bool stays = false;            ///< all calls from there on fail
   std::size_t mostPerWrite = 0;  ///< short writes: bytes taken at once, 0 for all
 
   int open(const std::string& path, Open how, std::uint32_t permissions) override {
