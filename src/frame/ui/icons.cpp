@@ -25,7 +25,8 @@ QByteArray source(const QString& key, bool dark) {
   QFile file(path(key));
   if (!file.open(QIODevice::ReadOnly)) return {};
   QByteArray svg = file.readAll();
-  if (dark) {
+  // The program's own picture has a ground of its own, so it stays.
+  if (dark && key != QLatin1String("ICONKORVIN")) {
     svg.replace("#33475b", "#c7d3df");
     svg.replace("#0a84c6", "#4fb6ee");
   }

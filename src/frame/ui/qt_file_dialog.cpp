@@ -5,9 +5,11 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QTreeView>
 
 #include "frame/datei_dialog.h"
 #include "frame/ui/mouse_pointer.h"
@@ -37,6 +39,14 @@ class CompletingDialog : public QFileDialog {
             [this](const QString& filter) { setDefaultSuffix(extensionOf(filter)); });
     setDefaultSuffix(extensionOf(selectedNameFilter()));
     connect(entry_, &QLineEdit::textChanged, this, &CompletingDialog::allowHiddenByFilter);
+  }
+
+  /// The names take what the other columns leave.
+  void fitColumns() const {
+    QHeaderView* columns = findChild<QTreeView*>(QStringLiteral("treeView"))->header();
+    columns->setStretchLastSection(false);
+    columns->setSectionResizeMode(QHeaderView::ResizeToContents);
+    columns->setSectionResizeMode(0, QHeaderView::Stretch);
   }
 
  protected:
@@ -93,6 +103,7 @@ std::string QtFileDialog::choose(const FileDialogRequest& request) {
   dialog.setNameFilters(nameFilters(qText(request.filter)));
   dialog.setDirectory(qText(request.folder));
   dialog.followEntry();
+  dialog.fitColumns();
   dialog.resize(scaled(820), scaled(540));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
   return utf8Text(QDir::toNativeSeparators(dialog.selectedFiles().constFirst()));

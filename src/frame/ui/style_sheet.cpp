@@ -39,8 +39,11 @@ QLineEdit:focus, QPlainTextEdit:focus { border-color: @accent; }
 QLineEdit:read-only { background: transparent; }
 QLineEdit[refused="true"] { border: 1px solid @refuse; }
 QToolTip { background: palette(tool-tip-base); color: palette(tool-tip-text); border: none; padding: $5 $8; }
-QProgressBar { border: none; border-radius: $4; background: @line; min-height: $8; max-height: $8; }
-QProgressBar::chunk { background: @accentFill; border-radius: $4; }
+QStatusBar { background: @card; border-top: 1px solid @line; }
+QStatusBar::item { border: none; }
+QStatusBar QLabel { padding: $4 $10; color: @softText; }
+QProgressBar { border: none; border-radius: $3; background: @line; min-height: $8; max-height: $8; }
+QProgressBar::chunk { background: @accentFill; border-radius: $3; }
 QGroupBox { border: 1px solid @line; border-radius: $8; margin-top: $10; padding: $10 $8 $8 $8; background: @card; }
 QGroupBox::title { subcontrol-origin: margin; left: $12; padding: 0 $4; color: @softText; }
 QHeaderView::section { background: @card; border: none; border-bottom: 1px solid @line; padding: $5 $8; }

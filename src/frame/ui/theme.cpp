@@ -3,10 +3,9 @@
 #include <QApplication>
 #include <QFont>
 #include <QPalette>
-#include <QStyle>
-#include <QStyleFactory>
 #include <algorithm>
 
+#include "frame/ui/korvin_style.h"
 #include "frame/ui/style_sheet.h"
 
 namespace korvin {
@@ -15,6 +14,8 @@ namespace {
 /// Pixels of plain text at scale 1.
 constexpr double plainTextPixels = 14.0;
 constexpr int languageChinese = 6;
+/// Property of the application: the style is set, once.
+constexpr const char* styleIsOwn = "korvinStyle";
 
 QPalette lightPalette() {
   QPalette p;
@@ -91,8 +92,9 @@ double screenScale(double skalaX, double skalaY) {
 void applyTheme(Appearance appearance, double scale, int language) {
   QFont font(fontFamilies(language));
   font.setPixelSize(qRound(plainTextPixels * scale));
-  if (QApplication::style()->name().compare(QLatin1String("fusion"), Qt::CaseInsensitive) != 0) {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  if (qApp->property(styleIsOwn).isNull()) {
+    QApplication::setStyle(new KorvinStyle);
+    qApp->setProperty(styleIsOwn, true);
   }
   QApplication::setPalette(appearance == Appearance::dark ? darkPalette() : lightPalette());
   QApplication::setFont(font);
