@@ -69,6 +69,13 @@ QPixmap KorvinStyle::standardPixmap(StandardPixmap standard, const QStyleOption*
   return own.pixmap(QSize(side, side));
 }
 
+int KorvinStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                           QStyleHintReturn* returned) const {
+  // Plain buttons on every desktop.
+  if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+  return QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
 int KorvinStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
   switch (metric) {
     case PM_MessageBoxIconSize:

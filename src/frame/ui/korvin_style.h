@@ -15,6 +15,8 @@ class KorvinStyle : public QProxyStyle {
                      const QWidget* widget) const override;
   QPixmap standardPixmap(StandardPixmap standard, const QStyleOption* option,
                          const QWidget* widget) const override;
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* returned) const override;
   int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
 };
 

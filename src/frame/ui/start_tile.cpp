@@ -14,6 +14,12 @@ constexpr double padding = 20;
 constexpr double pictureGround = 60;
 constexpr double pictureSide = 38;
 constexpr double corner = 12;
+constexpr double lineGap = 5;
+constexpr double pictureGap = 12;
+// Sizes of the words, as factors on plain text.
+constexpr double nameFactor = 1.22;
+constexpr double lineFactor = 0.97;
+constexpr double footFactor = 0.82;
 
 /// The font at `factor`, made smaller until `text` fits `width`.
 QFont fittingFont(const QString& text, int width, double factor) {
@@ -22,6 +28,14 @@ QFont fittingFont(const QString& text, int width, double factor) {
     font.setPixelSize(font.pixelSize() - 1);
   }
   return font;
+}
+
+/// What `words` need at `factor`, broken into lines. Chinese and Japanese signs stand taller than the font's
+/// own measure.
+int heightOf(const QString& words, double factor, int width) {
+  return QFontMetrics(themeFont(factor))
+      .boundingRect(QRect(0, 0, width, 10000), Qt::TextWordWrap, words)
+      .height();
 }
 
 }  // namespace
@@ -49,7 +63,7 @@ void StartTile::setReason(const QString& reason) {
 }
 
 QSize StartTile::sizeHint() const {
-  return wide_ ? QSize(scaled(420), scaled(92)) : QSize(scaled(236), scaled(196));
+  return wide_ ? QSize(scaled(420), scaled(92)) : QSize(scaled(236), scaled(214));
 }
 
 void StartTile::keyPressEvent(QKeyEvent* event) {
@@ -76,14 +90,23 @@ void StartTile::paintEvent(QPaintEvent* /*event*/) {
   paintCard(painter);
   const int edge = scaled(padding);
   const int ground = scaled(pictureGround);
+  const int top = wide_ ? rect().center().y() - ground / 2 : edge;
+  paintPicture(painter, QRect(edge, top, ground, ground));
+  paintWords(painter);
+}
+
+QRect StartTile::wordsPlace() const {
+  const int edge = scaled(padding);
+  const int ground = scaled(pictureGround);
   const QRect inside = rect().adjusted(edge, edge, -edge, -edge);
-  if (wide_) {
-    paintPicture(painter, QRect(inside.left(), rect().center().y() - ground / 2, ground, ground));
-    paintWords(painter, inside.adjusted(ground + edge, 0, 0, 0));
-  } else {
-    paintPicture(painter, QRect(inside.left(), inside.top(), ground, ground));
-    paintWords(painter, inside.adjusted(0, ground + scaled(14), 0, 0));
-  }
+  if (!wide_) return inside.adjusted(0, ground + scaled(pictureGap), 0, 0);
+  const QRect beside = inside.adjusted(ground + edge, 0, 0, 0);
+  const int height = nameHeight(beside.width()) + heightOf(line_, lineFactor, beside.width());
+  return QRect(beside.left(), rect().center().y() - height / 2, beside.width(), height);
+}
+
+int StartTile::nameHeight(int width) const {
+  return QFontMetrics(fittingFont(text(), width, nameFactor)).boundingRect(text()).height() + scaled(lineGap);
 }
 
 void StartTile::paintCard(QPainter& painter) const {
@@ -113,26 +136,30 @@ void StartTile::paintPicture(QPainter& painter, const QRect& place) const {
       .paint(&painter, picture, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
 }
 
-void StartTile::paintWords(QPainter& painter, QRect place) const {
+void StartTile::paintWords(QPainter& painter) const {
   const QColor strong =
       palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText);
-  const QColor soft = isEnabled() ? themeColour(ThemeColour::softText) : strong;
-  const QString foot = isEnabled() ? QString() : reason_;
+  QRect place = wordsPlace();
 
-  painter.setFont(fittingFont(text(), place.width(), 1.22));
-  const int nameHeight = painter.fontMetrics().height();
+  painter.setFont(fittingFont(text(), place.width(), nameFactor));
   painter.setPen(strong);
-  if (wide_) place.setTop(rect().center().y() - nameHeight - scaled(1));
-  painter.drawText(QRect(place.left(), place.top(), place.width(), nameHeight),
-                   Qt::AlignLeft | Qt::AlignVCenter, text());
+  painter.drawText(place, Qt::AlignLeft | Qt::AlignTop, text());
 
-  place.setTop(place.top() + nameHeight + scaled(5));
-  painter.setFont(themeFont(0.97));
-  painter.setPen(soft);
+  place.setTop(place.top() + nameHeight(place.width()));
+  painter.setFont(themeFont(lineFactor));
+  painter.setPen(isEnabled() ? themeColour(ThemeColour::softText) : strong);
   painter.drawText(place, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, line_);
-  if (foot.isEmpty() || wide_) return;
-  painter.setFont(themeFont(0.82));
-  painter.drawText(place, Qt::AlignLeft | Qt::AlignBottom | Qt::TextWordWrap, foot);
+  if (isEnabled() || wide_) return;
+  painter.setFont(themeFont(footFactor));
+  painter.drawText(place, Qt::AlignLeft | Qt::AlignBottom | Qt::TextWordWrap, reason_);
+}
+
+bool StartTile::wordsFit() const {
+  const QRect place = wordsPlace();
+  int height = nameHeight(place.width()) + heightOf(line_, lineFactor, place.width());
+  if (!isEnabled() && !wide_) height += heightOf(reason_, footFactor, place.width());
+  const QFontMetrics name(fittingFont(text(), place.width(), nameFactor));
+  return height <= place.height() && name.horizontalAdvance(text()) <= place.width() && place.top() >= 0;
 }
 
 }  // namespace korvin

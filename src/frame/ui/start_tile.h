@@ -17,6 +17,9 @@ class StartTile : public QAbstractButton {
   /// A disabled tile says why in its tooltip and at its foot.
   void setReason(const QString& reason);
 
+  /// True if all words can be read at the present size: nothing cut off, nothing over another.
+  bool wordsFit() const;
+
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -29,7 +32,10 @@ class StartTile : public QAbstractButton {
  private:
   void paintCard(QPainter& painter) const;
   void paintPicture(QPainter& painter, const QRect& place) const;
-  void paintWords(QPainter& painter, QRect place) const;
+  /// Where the words stand.
+  QRect wordsPlace() const;
+  int nameHeight(int width) const;
+  void paintWords(QPainter& painter) const;
 
   QString pictureKey_;
   bool wide_;

@@ -1,0 +1,99 @@
+#pragma once
+
+#include <string>
+
+#include "frame/clock.h"
+#include "frame/datei_verteilung.h"
+#include "frame/display_choice.h"
+#include "frame/folders.h"
+#include "frame/messplatz.h"
+#include "frame/posix_file_system.h"
+#include "frame/profil.h"
+#include "frame/programmstart.h"
+#include "frame/session_settings_tree.h"
+#include "frame/sqlite_dictionary.h"
+#include "frame/sqlite_settings_tree.h"
+#include "frame/ui/hilfe.h"
+#include "frame/ui/mdi_korvin.h"
+#include "frame/ui/qt_event_pump.h"
+#include "frame/ui/qt_file_dialog.h"
+#include "frame/ui/qt_message_port.h"
+#include "frame/ui/qt_program_end.h"
+#include "frame/ui/qt_random_source.h"
+#include "frame/ui/qt_timer.h"
+#include "frame/ui/qt_translations.h"
+#include "link/kamera_antwort.h"
+#include "link/kor_com.h"
+#include "link/ui/kopfsuche.h"
+#include "link/ui/qt_mscomm.h"
+#include "position/erfassung.h"
+#include "position/formpos.h"
+#include "position/position_file.h"
+#include "position/ui/position_starter.h"
+
+namespace korvin {
+
+/// The whole measuring station, wired once: ports, records, measuring kinds, main window. Lives in the scope
+/// of a QApplication. What the members need of each other they are given here, and nowhere else.
+///
+/// To add a measuring kind: its record, files and starter as members, and a line in the constructor.
+class Station {
+ public:
+  Station(const FolderEnvironment& environment, Appearance appearance);
+  ~Station();
+  Station(const Station&) = delete;
+  Station& operator=(const Station&) = delete;
+
+  /// Loads the main window and shows it. False if the program has to end.
+  bool start();
+
+  MDIKorvin& window() { return window_; }
+  MessagePort& messages() { return messages_; }
+  Meldung& meldung() { return messplatz_.meldung; }
+
+ private:
+  ZyklusUmgebung cycle();
+  QtMSComm::PortFinder portFinder() const;
+  void unload();
+
+  Folders folders_;
+
+  // The outside world.
+  SystemClock clock_;
+  QtEventPump pump_;
+  QtTimerSource timers_;
+  QtRandomSource random_;
+  QtMessagePort messages_;
+  QtFileDialog fileDialog_;
+  QtProgramEnd programEnd_;
+  QtTranslations translations_;
+  PosixFileSystem fileSystem_;
+  SqliteSettingsTree storedSettings_;
+
+  // Shared records, settings, words.
+  Messplatz messplatz_;
+  KameraAntwort KameraAntwort_;
+  SessionSettingsTree settings_;
+  Profil profil_;
+  SqliteDictionary dictionary_;
+  Anzeigewahl anzeige_;
+
+  // The link.
+  KorCom korCom_;
+  QtMSComm MSCommKamera_;  ///< the main window's own, for the search
+  Kopfsuche kopfsuche_;
+
+  // Measuring kinds.
+  FORMPOS formpos_;
+  PositionsErfassung positionsErfassung_;
+  PositionsDateien positionsDateien_;
+  PositionStarter positionStarter_;
+  DateiVerteilung verteilung_;
+
+  // The main window.
+  Programmstart programmstart_;
+  Hilfe hilfe_;
+  MDIKorvin window_;
+};
+
+}  // namespace korvin
