@@ -82,13 +82,14 @@ class CompletingDialog : public QFileDialog {
 }  // namespace
 
 QStringList nameFilters(const QString& pairs) {
-  static const QRegularExpression brackets(QStringLiteral("\\s*\\([^()]*\\)\\s*$"));
+  static const QRegularExpression brackets(QStringLiteral("\\s*\\(([^()]*)\\)\\s*$"));
   const QStringList parts = pairs.split(QLatin1Char('|'));
   QStringList filters;
   for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
     QString words = parts[i];
+    const QString inBrackets = brackets.match(words).captured(1);
     words.remove(brackets);
-    filters << QStringLiteral("%1 (%2)").arg(words, parts[i + 1]);
+    filters << QStringLiteral("%1 (%2)").arg(words, parts[i + 1].isEmpty() ? inBrackets : parts[i + 1]);
   }
   return filters;
 }

@@ -15,7 +15,8 @@ class QtFileDialog : public FileDialog {
 };
 
 /// "Position|*.O|Straightness (*.G)|*.G" as the dialog's name filters "Position (*.O)", "Straightness (*.G)".
-/// A pattern in brackets at a text's end is not repeated; a text without a pattern is dropped.
+/// A pattern in brackets at a text's end is not repeated, but stands in for an empty one; a text without a
+/// pattern is dropped.
 QStringList nameFilters(const QString& pairs);
 
 }  // namespace korvin

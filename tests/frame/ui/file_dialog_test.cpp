@@ -52,6 +52,8 @@ TEST(NameFiltersTest, PairsBecomeFilters) {
             QStringList({QStringLiteral("Alle (*.?)"), QStringLiteral("Position (*.O)")}));
   EXPECT_EQ(nameFilters(QStringLiteral("Position(*.O)|*.O|Rest")),
             QStringList{QStringLiteral("Position (*.O)")});
+  EXPECT_EQ(nameFilters(QStringLiteral("Position(*.O)|")), QStringList{QStringLiteral("Position (*.O)")})
+      << "the filter of a save has its pattern in brackets only";
 }
 
 TEST_F(QtFileDialogTest, SavingCompletesTheName) {
