@@ -15,7 +15,6 @@ constexpr std::int16_t TextKind = 505;
 constexpr std::int16_t TextOeffnen = 2044;
 constexpr std::int16_t TextSpeichernUnter = 2045;
 constexpr std::int16_t TextAenderungen = 6009;
-constexpr std::int16_t StatusGeladen = 1;
 constexpr std::int16_t StatusGespeichert = 2;
 
 }  // namespace
@@ -52,7 +51,6 @@ bool PositionsBefehle::M_Oeffnen(const std::function<void()>& entschieden) {
   // Its messages speak of the file's kind.
   u_.system.Messart = MessartPosition;
   if (!u_.dateien.o_DateiLaden(name)) return false;
-  u_.formpos.bild().Info.DateiStatus = StatusGeladen;
   u_.erfassung.bildUebernehmen();
   return true;
 }

@@ -59,7 +59,6 @@ void HeadPanel::setTexte(Dictionary& dictionary) {
     infoTexte_.at(i) =
         qText(dictionary.DicText(static_cast<std::int16_t>(firstInfoText + static_cast<int>(i))));
   }
-  setInfoBild(infoSchluessel_);
 }
 
 void HeadPanel::setMontage(const QString& schluessel) {

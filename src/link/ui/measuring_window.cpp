@@ -190,11 +190,8 @@ void Messfenster::closeEvent(QCloseEvent* event) {
   }
   // A telegram may be under way: the next tick unloads the window.
   event->ignore();
-  if (zyklus_.Schliessen() || fragtSchliessen_) return;
-  fragtSchliessen_ = true;
-  const bool erlaubt = schliessenErlaubt();
-  fragtSchliessen_ = false;
-  if (!erlaubt) return;
+  if (zyklus_.Schliessen()) return;
+  if (!schliessenErlaubt()) return;
   zyklus_.schliessenAnfordern();
   betriebZeigen();
 }

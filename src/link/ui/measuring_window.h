@@ -149,7 +149,6 @@ class Messfenster : public QMainWindow, public MessfensterAnsicht {
   QEventLoop schleife_;
   std::int16_t gezeigterBetrieb_ = 0;
   bool einzelLaeuft_ = false;
-  bool fragtSchliessen_ = false;
   bool offen_ = false;
   bool entladen_ = false;
 };

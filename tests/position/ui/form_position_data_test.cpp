@@ -161,6 +161,24 @@ TEST_F(Data, DeletingEmptiesAllAndReleasesTheOffset) {
   EXPECT_EQ(list().model()->rowCount(), 1);
 }
 
+TEST_F(Data, DeletingEmptiesTheListOfTelegramsToo) {
+  show();
+  QTest::mouseDClick(label("lblMSCommInput(0)"), Qt::LeftButton);
+  run(0.5);
+  auto* telegrams = form->findChild<QListWidget*>(QStringLiteral("LstCamMsg"));
+  ASSERT_GT(telegrams->count(), 3);
+  click("LOESCHEN");
+  EXPECT_EQ(telegrams->count(), 0);
+}
+
+TEST_F(Data, ListFollowsTheCursorAfterDeletingToo) {
+  show();
+  takePoints(1);
+  click("LOESCHEN");
+  takePoints(1);
+  EXPECT_EQ(list().currentIndex().row(), 0);
+}
+
 TEST_F(Data, DeletingDuringATransactionWaitsForItsEnd) {
   show();
   takePoints(2);
@@ -323,6 +341,14 @@ TEST_F(Data, SaveDuringARunLetsItGoOn) {
   EXPECT_TRUE(info().Geaendert);
 }
 
+TEST_F(Data, TextThatIsNotEditedKeepsItsBytes) {
+  show();
+  const std::string odd = "as it was" + std::string(66, '\0');
+  info().Kommentar = odd;
+  saveAs(folder.path("a.O"));
+  EXPECT_EQ(info().Kommentar.full(), odd);
+}
+
 TEST_F(Data, InformationRefusesVisiblyWhatDoesNotFit) {
   show();
   takePoints(1);
@@ -456,6 +482,21 @@ TEST_F(Data, ClosingAsksForChangedData) {
   run(0.3);
   EXPECT_FALSE(form->offen());
   EXPECT_TRUE(exists("a.O"));
+}
+
+TEST_F(Data, ClosingAsksOnceHoweverOftenItIsAskedFor) {
+  show();
+  takePoints(1);
+  answer(MessageAnswer::yes);
+  fileDialog.answers.push_back(folder.path("a.O"));
+  nextFileInfo([this](QDialog& dialog) {
+    form->close();
+    press(dialog, "cmdOK");
+  });
+  form->close();
+  EXPECT_EQ(world.messages.shown.size(), 1U);
+  run(0.3);
+  EXPECT_FALSE(form->offen());
 }
 
 TEST_F(Data, ClosingWithNoDropsTheData) {

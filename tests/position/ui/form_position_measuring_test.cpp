@@ -230,7 +230,9 @@ TEST_F(Stand, WithoutAHeadTheWindowFallsBackToTheSimulatedOne) {
   click("XYMP1");
   run(2);
   EXPECT_EQ(info().AnzahlMP, 1);
+  world.messages.answers.push_back(MessageAnswer::no);
   entry("M_Neu")->trigger();
+  ASSERT_EQ(info().AnzahlMP, 0);
   EXPECT_EQ(text("lblKamera"), "Simulation only") << "a new measurement brings no head back";
 }
 
@@ -244,6 +246,32 @@ TEST_F(Stand, SimulationIsChosenInTheMenuAndItsMarkStays) {
   const std::size_t before = world.head.commands.size();
   run(1);
   EXPECT_EQ(world.head.commands.size(), before);
+}
+
+TEST_F(Stand, LinkMarksFollowTheCycleAndNotTheClick) {
+  show();
+  bool clicked = false;
+  world.clock.after(0.0315, [&] {
+    clicked = true;
+    entry("M_KVNSimulation")->trigger();
+    EXPECT_FALSE(entry("M_KVNSimulation")->isChecked()) << "a transaction is under way";
+    entry("M_KVNOnline")->trigger();
+    EXPECT_TRUE(entry("M_KVNOnline")->isChecked());
+  });
+  run(0.2);
+  EXPECT_TRUE(clicked);
+}
+
+TEST_F(Stand, FailedSingleMeasurementIsOverForTheUserOnceTheLinkIsTriedAnew) {
+  show();
+  run(0.1);
+  world.head.behaviour = [](char command) {
+    return command == 'M' ? std::string() : test::answerFrame(test::answerBody(command));
+  };
+  click("XYMP1");
+  run(20);
+  EXPECT_TRUE(pressed("XYMP1")) << "the key tells that it failed";
+  EXPECT_EQ(text("lblBetrieb"), "D7220");
 }
 
 TEST_F(Stand, ServiceLineAndPanel) {
@@ -285,9 +313,24 @@ TEST_F(Stand, SlidersSetTheTimers) {
   auto* keyPressed = form->findChild<QSlider*>(QStringLiteral("SliderTimers(2)"));
   QTest::keyClick(keyPressed, Qt::Key_Home);
   EXPECT_EQ(text("Label6"), "50 ms");
-  auto* fast = form->findChild<QSlider*>(QStringLiteral("SliderTimers(1)"));
-  fast->setValue(11);
+  click("XYMP1");
+  run(1);
+  EXPECT_EQ(info().AnzahlMP, 0) << "the press has lapsed before the next poll";
+}
+
+TEST_F(Stand, MiddleSliderSetsThePaceOfARun) {
+  show();
+  QTest::mouseDClick(label("lblMSCommInput(0)"), Qt::LeftButton);
+  auto* pace = form->findChild<QSlider*>(QStringLiteral("SliderTimers(1)"));
+  pace->setValue(11);
   EXPECT_EQ(text("Label5"), "17 ms") << "16.5 is rounded away from zero";
+  click("XYMPN");
+  run(0.2);
+  pace->setValue(50);
+  EXPECT_EQ(text("Label5"), "75 ms");
+  const int before = info().AnzahlMP;
+  run(2);
+  EXPECT_NEAR(info().AnzahlMP - before, 2 / (0.075 + world.head.delay), 2);
 }
 
 TEST_F(Stand, ArrowKeysMoveAFocusedSliderAndNotTheCursor) {
@@ -332,6 +375,21 @@ TEST_F(Stand, PlanShowsItsTimesAndTheClockUntilTheRunEnds) {
   EXPECT_FALSE(pressed("XYMPN"));
   EXPECT_FALSE(shown("PanelZeit(1)"));
   EXPECT_FALSE(shown("PanelZeit(2)"));
+}
+
+TEST_F(Stand, ClockStopsWithTheWindow) {
+  show();
+  info().StopAktiv = true;
+  info().StopZeit = world.clock.now() + 1;
+  click("XYMPN");
+  run(0.5);
+  world.messages.answers.push_back(MessageAnswer::no);
+  form->close();
+  run(0.1);
+  ASSERT_FALSE(form->offen());
+  const std::string last = text("PanelZeit(2)");
+  run(60);
+  EXPECT_EQ(text("PanelZeit(2)"), last);
 }
 
 TEST_F(Stand, TriggerLineMeasuresOnce) {

@@ -60,9 +60,10 @@ TEST_F(Starter, LoadedFileIsShownAsLoaded) {
   EXPECT_EQ(world.messages.shown.size(), 1U);
   folder.copyOf("reference/point.O1");
   ASSERT_TRUE(start.laden(name));
+  formpos.bild().Info.DateiStatus = 2;
   whenShown([this](FormPosition& window) {
     EXPECT_EQ(info().AnzahlMP, 40);
-    EXPECT_EQ(info().DateiStatus, 1);
+    EXPECT_EQ(info().DateiStatus, 1) << "loaded, whatever its file says";
     EXPECT_EQ(window.findChild<PointList*>()->model()->rowCount(), 40);
   });
   start.zeigen(1);
