@@ -108,7 +108,7 @@ void FormPosition::menusAnlegen() {
   menuEintrag(
       menuAnlegen("M_Extras", 1025), "M_EinrichtInfo", 7189, [] {}, "EINRICHTEN");
   menuEintrag(
-      menuAnlegen("M_HilfeMenu", 1052), "M_Hilfe", 1052, [this] { drueckeTaste("HILFE"); }, "HILFE");
+      menuAnlegen("M_HilfeMenu", 1052), "M_Hilfe", 7043, [this] { drueckeTaste("HILFE"); }, "HILFE");
 }
 
 void FormPosition::layoutAnlegen() {
