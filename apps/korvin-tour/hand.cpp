@@ -1,0 +1,206 @@
+#include "hand.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemModel>
+#include <QAction>
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPointer>
+#include <QTableView>
+#include <QTest>
+#include <QToolButton>
+
+namespace korvin::tour {
+namespace {
+
+[[noreturn]] void fail(const QString& words) {
+  throw StepFailed(words.toStdString());
+}
+
+QWidget& windowOf(const QString& name) {
+  if (QWidget* window = findWindow(name)) return *window;
+  fail(QStringLiteral("there is no window \"%1\"").arg(name));
+}
+
+QAction& actionOf(const QString& window, const QString& entry) {
+  if (auto* action = windowOf(window).findChild<QAction*>(entry)) return *action;
+  fail(QStringLiteral("the window \"%1\" has no entry \"%2\"").arg(window, entry));
+}
+
+/// Fails for what a user's click would not reach.
+void requireInReach(const QWidget& control) {
+  if (!control.isEnabled()) fail(QStringLiteral("\"%1\" is disabled").arg(control.objectName()));
+  const QWidget* modal = QApplication::activeModalWidget();
+  if (modal != nullptr && modal != control.window() && !modal->isAncestorOf(&control)) {
+    fail(QStringLiteral("\"%1\" lies behind the window \"%2\"")
+             .arg(control.objectName(), modal->objectName()));
+  }
+}
+
+void postClick(QWidget& control) {
+  requireInReach(control);
+  Gui::post([target = QPointer<QWidget>(&control)] {
+    if (target) QTest::mouseClick(target, Qt::LeftButton);
+  });
+}
+
+QAbstractButton& acceptingButton(const QString& dialog) {
+  auto* box = windowOf(dialog).findChild<QDialogButtonBox*>();
+  if (box != nullptr) {
+    for (QAbstractButton* button : box->buttons()) {
+      const auto role = box->buttonRole(button);
+      if (role == QDialogButtonBox::AcceptRole || role == QDialogButtonBox::YesRole) return *button;
+    }
+  }
+  fail(QStringLiteral("the dialog \"%1\" has no button that accepts").arg(dialog));
+}
+
+QAbstractItemModel& tableOf(const QString& window) {
+  if (auto* table = windowOf(window).findChild<QTableView*>()) return *table->model();
+  fail(QStringLiteral("the window \"%1\" has no table").arg(window));
+}
+
+QString labelText(const QString& window, const QString& label) {
+  auto* found = windowOf(window).findChild<QLabel*>(label);
+  if (found == nullptr) fail(QStringLiteral("the window \"%1\" has no label \"%2\"").arg(window, label));
+  return found->text().trimmed();
+}
+
+bool keyPressed(const QString& window, const QString& key) {
+  const auto* button = qobject_cast<QToolButton*>(&findControl(window, key));
+  return button != nullptr && button->isChecked();
+}
+
+QString rowText(const QAbstractItemModel& model, int row) {
+  QStringList cells;
+  for (int column = 0; column < model.columnCount(); ++column) {
+    cells << model.index(row, column).data().toString().trimmed();
+  }
+  return cells.join(QLatin1Char('\t'));
+}
+
+}  // namespace
+
+QWidget* findWindow(const QString& name) {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->isVisible() && window->objectName() == name) return window;
+  }
+  return nullptr;
+}
+
+QWidget& findControl(const QString& window, const QString& control) {
+  for (QWidget* found : windowOf(window).findChildren<QWidget*>(control)) {
+    if (found->isVisible()) return *found;
+  }
+  fail(QStringLiteral("the window \"%1\" shows no \"%2\"").arg(window, control));
+}
+
+void Hand::click(const QString& window, const QString& control) {
+  gui_.ask([=] { postClick(findControl(window, control)); });
+}
+
+void Hand::accept(const QString& dialog) {
+  gui_.ask([=] { postClick(acceptingButton(dialog)); });
+}
+
+void Hand::choose(const QString& window, const QString& entry) {
+  gui_.ask([=] {
+    QAction& action = actionOf(window, entry);
+    requireInReach(windowOf(window));
+    if (!action.isEnabled()) fail(QStringLiteral("\"%1\" is disabled").arg(entry));
+    Gui::post([target = QPointer<QAction>(&action)] {
+      if (target) target->trigger();
+    });
+  });
+}
+
+void Hand::type(const QString& window, const QString& entry, const QString& text) {
+  gui_.ask([=] {
+    auto* line = qobject_cast<QLineEdit*>(&findControl(window, entry));
+    if (line == nullptr) fail(QStringLiteral("\"%1\" takes no text").arg(entry));
+    requireInReach(*line);
+    line->setFocus();
+    line->selectAll();
+    QTest::keyClicks(line, text);
+    if (line->text() != text) fail(QStringLiteral("\"%1\" reads \"%2\"").arg(entry, line->text()));
+  });
+}
+
+void Hand::picture(const QString& window, const QString& name) {
+  gui_.ask([=, this] {
+    const QString file = QStringLiteral("%1/%2.png").arg(pictures_, name);
+    if (!windowOf(window).grab().save(file))
+      fail(QStringLiteral("the picture %1 can't be written").arg(file));
+  });
+}
+
+void Hand::pictureOfAll(const QString& name) {
+  gui_.ask([=, this] {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      if (!window->isVisible()) continue;
+      window->grab().save(QStringLiteral("%1/%2-%3.png").arg(pictures_, name, window->objectName()));
+    }
+  });
+}
+
+void Hand::waitFor(const QString& window, double seconds) {
+  Gui::until("the window \"" + window.toStdString() + "\"", seconds,
+             [=] { return findWindow(window) != nullptr; });
+}
+
+void Hand::waitGone(const QString& window, double seconds) {
+  Gui::until("the end of the window \"" + window.toStdString() + "\"", seconds,
+             [=] { return findWindow(window) == nullptr; });
+}
+
+QString Hand::title(const QString& window) {
+  return gui_.ask([=] { return windowOf(window).windowTitle(); });
+}
+
+QString Hand::label(const QString& window, const QString& label) {
+  return gui_.ask([=] { return labelText(window, label); });
+}
+
+void Hand::waitForLabel(const QString& window, const QString& label, const QString& part, double seconds) {
+  Gui::until("\"" + part.toStdString() + "\" in the label \"" + label.toStdString() + "\"", seconds,
+             [=] { return labelText(window, label).contains(part); });
+}
+
+bool Hand::isChecked(const QString& window, const QString& entry) {
+  return gui_.ask([=] { return actionOf(window, entry).isChecked(); });
+}
+
+bool Hand::isPressed(const QString& window, const QString& key) {
+  return gui_.ask([=] { return keyPressed(window, key); });
+}
+
+void Hand::waitForKey(const QString& window, const QString& key, bool pressed, double seconds) {
+  Gui::until("the key \"" + key.toStdString() + (pressed ? "\" pressed" : "\" released"), seconds,
+             [=] { return keyPressed(window, key) == pressed; });
+}
+
+QStringList Hand::rows(const QString& window) {
+  return gui_.ask([=] {
+    const QAbstractItemModel& model = tableOf(window);
+    QStringList rows;
+    for (int row = 0; row < model.rowCount(); ++row) rows << rowText(model, row);
+    return rows;
+  });
+}
+
+void Hand::waitForRows(const QString& window, int count, double seconds) {
+  Gui::until(std::to_string(count) + " points in the list", seconds,
+             [=] { return tableOf(window).rowCount() >= count; });
+}
+
+QStringList Hand::messageText() {
+  return gui_.ask([] {
+    const auto* box = qobject_cast<QMessageBox*>(findWindow(QStringLiteral("MessageBox")));
+    return box == nullptr ? QStringList() : QStringList{box->windowTitle(), box->text()};
+  });
+}
+
+}  // namespace korvin::tour

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+/// Object names of the windows and controls that the walk meets.
+namespace korvin::tour::names {
+
+inline const QString mainWindow = QStringLiteral("MDIKorvin");
+inline const QString position = QStringLiteral("FormPosition");
+inline const QString searchDialog = QStringLiteral("FormScanComport");
+inline const QString message = QStringLiteral("MessageBox");
+inline const QString fileDialog = QStringLiteral("CMDialogDatei");
+inline const QString fileEntry = QStringLiteral("fileNameEdit");
+inline const QString fileInfo = QStringLiteral("FormDateiInfoO");
+inline const QString information = QStringLiteral("FormInfo");
+inline const QString guide = QStringLiteral("HelpViewer");
+inline const QString ok = QStringLiteral("cmdOK");
+
+inline const QString single = QStringLiteral("XYMP1");
+inline const QString running = QStringLiteral("XYMPN");
+inline const QString fast = QStringLiteral("XYMPNN");
+
+}  // namespace korvin::tour::names

@@ -1,0 +1,58 @@
+#include "walk.h"
+
+#include <array>
+#include <chrono>
+#include <exception>
+
+namespace korvin::tour {
+
+bool Walk::firstStart() {
+  static constexpr std::array<Step, 8> steps = {{{"A question tells of new settings", &Walk::newSettings},
+                                                 {"The search finds the head", &Walk::search},
+                                                 {"Its port and speed are stored", &Walk::storedPort},
+                                                 {"The start screen in three languages", &Walk::startScreens},
+                                                 {"The information about the program", &Walk::information},
+                                                 {"The user's guide", &Walk::guide},
+                                                 {"The text copy is switched on", &Walk::textCopyOn},
+                                                 {"The program ends", &Walk::end}}};
+  return take(steps);
+}
+
+bool Walk::secondStart() {
+  static constexpr std::array<Step, 17> steps = {
+      {{"The second start finds the head at once", &Walk::foundAtOnce},
+       {"The tile opens the position window", &Walk::openPosition},
+       {"A single measurement, by the tool bar", &Walk::singleByClick},
+       {"A single measurement, by the head's key", &Walk::singleByHead},
+       {"A running measurement, by the tool bar", &Walk::runByClick},
+       {"A running measurement, by the head's key", &Walk::runByHead},
+       {"A fast running measurement", &Walk::fastRun},
+       {"The point cursor, by the tool bar", &Walk::cursor},
+       {"The point cursor, by the head's keys", &Walk::cursorByHead},
+       {"The offset", &Walk::offset},
+       {"The big numbers", &Walk::bigNumbers},
+       {"The measurement is saved", &Walk::save},
+       {"Its three files hold what was measured", &Walk::files},
+       {"The window closes", &Walk::closePosition},
+       {"The file opens again and shows what was measured", &Walk::reopen},
+       {"The same in English and Japanese", &Walk::reopenInOtherLanguages},
+       {"The program ends", &Walk::end}}};
+  return take(steps);
+}
+
+bool Walk::take(std::span<const Step> steps) {
+  for (const Step& step : steps) {
+    const auto begin = std::chrono::steady_clock::now();
+    try {
+      const std::string read = (this->*step.run)();
+      journal_.done(std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count(),
+                    step.name, read);
+    } catch (const std::exception& error) {
+      journal_.failed(step.name, error.what());
+      return false;
+    }
+  }
+  return true;
+}
+
+}  // namespace korvin::tour

@@ -1,0 +1,90 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <filesystem>
+#include <span>
+#include <string>
+
+#include "hand.h"
+#include "head_process.h"
+#include "journal.h"
+
+namespace korvin::tour {
+
+/// Where things are on the walk.
+struct WalkPlaces {
+  QString pictures;                    ///< folder of the pictures
+  QString file;                        ///< the measuring file that is written, with its full path
+  std::filesystem::path settingsFile;  ///< the settings of the walk
+};
+
+/// A user's way through the program: two starts, each a list of steps in their order. Runs in a thread of its
+/// own, beside the windows.
+///
+/// To add a step: a member function that does it and returns what it read, and a line in a list in walk.cpp.
+class Walk {
+ public:
+  Walk(WalkPlaces places, const HeadProcess& head, Journal& journal)
+      : places_(std::move(places)), head_(head), journal_(journal), hand_(places_.pictures) {}
+
+  /// The first start, with no settings: search, start screen, information, guide. Ends the program.
+  /// Returns false, with the journal saying why, as soon as a step fails.
+  bool firstStart();
+  /// The second start: the measurement, its files, and reading it again. Ends the program.
+  bool secondStart();
+
+ private:
+  struct Step {
+    const char* name;
+    std::string (Walk::*run)();
+  };
+  bool take(std::span<const Step> steps);
+
+  // ---- walk_start.cpp ----
+  std::string newSettings();
+  std::string search();
+  std::string storedPort();
+  std::string startScreens();
+  std::string information();
+  std::string guide();
+  std::string textCopyOn();
+  std::string end();
+  std::string foundAtOnce();
+
+  // ---- walk_position.cpp ----
+  std::string openPosition();
+  std::string singleByClick();
+  std::string singleByHead();
+  std::string runByClick();
+  std::string runByHead();
+  std::string fastRun();
+  std::string cursor();
+  std::string cursorByHead();
+  std::string offset();
+  std::string bigNumbers();
+  std::string save();
+  std::string files();
+  std::string closePosition();
+  std::string reopen();
+  std::string reopenInOtherLanguages();
+
+  void chooseLanguage(int index);
+  void typeFileAndAccept();
+  void openFile();
+  void waitForPosition();
+  /// Clicks the key, lets `count` points come, clicks again; returns the number of points then.
+  int runOnKey(const QString& key, int count, const QString& picture);
+  int pointCount();
+  std::string lastPoint();
+  std::string setting(std::string_view key);
+
+  WalkPlaces places_;
+  const HeadProcess& head_;
+  Journal& journal_;
+  Hand hand_;
+  QStringList savedRows_;
+  QString savedOffset_;
+};
+
+}  // namespace korvin::tour
