@@ -35,7 +35,7 @@ bool Walk::secondStart() {
        {"Its three files hold what was measured", &Walk::files},
        {"The window closes", &Walk::closePosition},
        {"The file opens again and shows what was measured", &Walk::reopen},
-       {"The same in English and Japanese", &Walk::reopenInOtherLanguages},
+       {"The same in German and Japanese", &Walk::reopenInOtherLanguages},
        {"The program ends", &Walk::end}}};
   return take(steps);
 }

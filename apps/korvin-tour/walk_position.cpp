@@ -44,13 +44,13 @@ void Walk::waitForPosition() {
         window == nullptr ? nullptr : window->findChild<QAction*>(QStringLiteral("M_KVNOnline"));
     return online != nullptr && online->isChecked();
   });
+  // The service line shows the head's first answer.
+  hand_.waitForLabel(names::position, QStringLiteral("lblMSCommInput(0)"), QStringLiteral("-T"));
 }
 
 std::string Walk::openPosition() {
   hand_.click(names::mainWindow, QStringLiteral("StartTile(Position)"));
   waitForPosition();
-  // The head's id and intensity are there with the first answer.
-  hand_.waitForLabel(names::position, QStringLiteral("lblMSCommInput(0)"), QStringLiteral("T"));
   hand_.picture(names::position, QStringLiteral("position-empty"));
   if (pointCount() != 0) throw StepFailed("the list is not empty");
   return "online; \"" + hand_.title(names::position).toStdString() + "\"";
@@ -210,7 +210,7 @@ std::string Walk::reopen() {
 }
 
 std::string Walk::reopenInOtherLanguages() {
-  for (const auto& [index, mark] : {std::pair{1, "en"}, std::pair{7, "ja"}}) {
+  for (const auto& [index, mark] : {std::pair{0, "de"}, std::pair{7, "ja"}}) {
     chooseLanguage(index);
     openFile();
     hand_.picture(names::position, QStringLiteral("position-") + QLatin1String(mark));

@@ -19,7 +19,7 @@ struct Language {
   int index;
   const char* mark;
 };
-constexpr std::array<Language, 3> pictured = {{{7, "ja"}, {1, "en"}, {0, "de"}}};
+constexpr std::array<Language, 3> pictured = {{{7, "ja"}, {0, "de"}, {1, "en"}}};
 
 /// The bar of the search; it comes up a moment after the dialog.
 QProgressBar& searchBar() {
