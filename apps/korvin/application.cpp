@@ -25,7 +25,6 @@ bool preparePlatform() {
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
   setApplicationName(QStringLiteral("korvin"));
-  setApplicationDisplayName(QStringLiteral("KORVIN"));
   setDesktopFileName(QStringLiteral("korvin"));
   setWindowIcon(icon(QStringLiteral("ICONKORVIN")));
   // The decimal mark is the point, in every language.

@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 #include <algorithm>
 #include <array>
 
@@ -21,11 +22,22 @@ constexpr double padding = 16;
 constexpr std::array<const char*, PointListModel::ColumnCount> widest = {"00000", "00.00.0000 / 00:00:00",
                                                                          "-0000.0000", "-0000.0000"};
 
+/// Keeps the figures off the edge of their column, on any screen.
+class PaddedCell : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+  QString displayText(const QVariant& value, const QLocale& /*locale*/) const override {
+    constexpr char16_t halfEm = 0x2002;
+    return value.toString() + QChar(halfEm);
+  }
+};
+
 }  // namespace
 
 PointList::PointList(PointListModel& model, QWidget* parent) : QTableView(parent), model_(model) {
   setObjectName(QStringLiteral("PointList"));
   setModel(&model_);
+  setItemDelegate(new PaddedCell(this));
   setSelectionBehavior(QAbstractItemView::SelectRows);
   setSelectionMode(QAbstractItemView::ExtendedSelection);
   setEditTriggers(QAbstractItemView::NoEditTriggers);
