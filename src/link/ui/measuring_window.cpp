@@ -176,6 +176,8 @@ void Messfenster::zeigen() {
   service_->leeren();
   ersteAktivierung();
   betriebZeigen();
+  // Whoever opened the window showed the hourglass; from here on it is the cycle's.
+  zeigeSanduhr(false);
 }
 
 void Messfenster::ausfuehren() {

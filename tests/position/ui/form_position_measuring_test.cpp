@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QHeaderView>
 
+#include "frame/ui/mouse_pointer.h"
 #include "link/ui/led_label.h"
 #include "position_stand.h"
 
@@ -24,6 +25,12 @@ TEST_F(Stand, ShowingGoesOnlineAndPolls) {
   EXPECT_EQ(text("lblMPsTotal"), "- ");
   EXPECT_EQ(text("lblOffset"), "--- / -.--- / -.--- ");
   EXPECT_EQ(text("lblKamera"), "D3003: D3202");
+}
+
+TEST_F(Stand, HourglassOfTheStartEndsWithTheShowing) {
+  showHourglass();
+  show();
+  EXPECT_FALSE(hourglassShown());
 }
 
 TEST_F(Stand, SingleMeasurementByTheToolbar) {

@@ -106,7 +106,7 @@ TEST_P(Words, MenusFitAndHaveDistinctAccessKeys) {
       EXPECT_FALSE(action->text().isEmpty()) << utf8Text(action->objectName());
       entries << action->text();
     }
-    expectDistinctAccessKeys(entries);
+    if (entries.size() > 1) expectDistinctAccessKeys(entries);
   }
   expectDistinctAccessKeys(bar);
 }
