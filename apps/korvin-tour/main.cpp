@@ -30,10 +30,7 @@ class Places {
  public:
   explicit Places(const QString& out) : out_(QDir(out).absolutePath()) {
     if (!own_.isValid() || !QDir().mkpath(out_)) throw std::runtime_error("no folder " + out_.toStdString());
-    for (const QString& old :
-         QDir(out_).entryList({QStringLiteral("walk.*"), QStringLiteral("*.png")}, QDir::Files)) {
-      QFile::remove(out_ + QLatin1Char('/') + old);
-    }
+    removeOldFiles();
     blockOtherPorts();
   }
 
@@ -62,6 +59,14 @@ class Places {
   void remove() { own_.remove(); }
 
  private:
+  /// What an earlier walk left and this one would meet. Pictures are written over.
+  void removeOldFiles() const {
+    const QStringList left = {fileName, fileName + QLatin1Char('1'), fileName + QLatin1Char('$'),
+                              QStringLiteral("walk.txt"), QStringLiteral("failed-*.png")};
+    for (const QString& old : QDir(out_).entryList(left, QDir::Files))
+      QFile::remove(QDir(out_).filePath(old));
+  }
+
   /// The walk asks no device that may be connected to this machine: all ports but the head's lead nowhere.
   void blockOtherPorts() const {
     const QString ports = config() + QStringLiteral("/korvin/ports");
