@@ -48,11 +48,22 @@ bool Walk::take(std::span<const Step> steps) {
       journal_.done(std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count(),
                     step.name, read);
     } catch (const std::exception& error) {
-      journal_.failed(step.name, error.what());
+      journal_.failed(step.name, error.what() + openMessage());
       return false;
     }
   }
   return true;
+}
+
+std::string Walk::openMessage() {
+  try {
+    const QStringList words = hand_.messageText();
+    return words.isEmpty()
+               ? ""
+               : "; a message is open: " + words.join(QStringLiteral(": ")).simplified().toStdString();
+  } catch (const std::exception&) {
+    return "; the windows do not answer";
+  }
 }
 
 }  // namespace korvin::tour

@@ -40,6 +40,8 @@ class Walk {
     std::string (Walk::*run)();
   };
   bool take(std::span<const Step> steps);
+  /// What the program itself says to a failed step.
+  std::string openMessage();
 
   // ---- walk_start.cpp ----
   std::string newSettings();
