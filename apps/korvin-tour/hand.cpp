@@ -122,6 +122,8 @@ void Hand::type(const QString& window, const QString& entry, const QString& text
     auto* line = qobject_cast<QLineEdit*>(&findControl(window, entry));
     if (line == nullptr) fail(QStringLiteral("\"%1\" takes no text").arg(entry));
     requireInReach(*line);
+    // Where there is no window manager nobody makes a window the active one.
+    QApplication::setActiveWindow(line->window());
     line->setFocus();
     line->selectAll();
     QTest::keyClicks(line, text);

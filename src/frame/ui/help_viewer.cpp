@@ -71,7 +71,7 @@ void HelpViewer::buildBar(Dictionary& dictionary) {
   bar_->addWidget(words_);
 }
 
-bool HelpViewer::open(const QString& path, const QString& anchor) {
+bool HelpViewer::read(const QString& path, const QString& anchor) {
   contents_ = anchor;
   if (!page_->load(path)) return false;
   page_->goTo(anchor);

@@ -19,7 +19,7 @@ class HelpViewer : public QDialog {
   HelpViewer(Dictionary& dictionary, QWidget* parent);
 
   /// Reads the guide and goes to `anchor`. False if the file can't be read.
-  bool open(const QString& path, const QString& anchor);
+  bool read(const QString& path, const QString& anchor);
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;

@@ -27,7 +27,7 @@ void Hilfe::zeigen() {
   if (owner == nullptr) owner = QApplication::activeWindow();
   if (owner != nullptr && owner == viewer_) return;
   bringToFront(owner);
-  if (viewer_->open(qText(file_), language_() == 0 ? QStringLiteral("de") : QStringLiteral("en"))) {
+  if (viewer_->read(qText(file_), language_() == 0 ? QStringLiteral("de") : QStringLiteral("en"))) {
     viewer_->show();
     viewer_->raise();
     viewer_->activateWindow();
