@@ -4,4 +4,4 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 mode=(--dry-run --Werror)
 [ "${1:-}" = --fix ] && mode=(-i)
-find src apps tests bench fuzz texts -name '*.cpp' -o -name '*.h' 2>/dev/null | sort | xargs -r clang-format "${mode[@]}"
+find src apps tests bench texts -name '*.cpp' -o -name '*.h' | sort | xargs -r clang-format "${mode[@]}"

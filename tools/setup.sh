@@ -2,7 +2,7 @@
 
 build_packages=(
   g++ cmake ninja-build ccache pkg-config
-  qt6-base-dev libqt6svg6-dev qt6-svg-dev libgl1-mesa-dev qt6-serialport-dev libsqlite3-dev
+  qt6-base-dev qt6-svg-dev libgl1-mesa-dev qt6-serialport-dev libsqlite3-dev
   libgtest-dev libgmock-dev libbenchmark-dev
 )
 run_packages=(
