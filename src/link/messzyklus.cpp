@@ -92,8 +92,8 @@ void Messzyklus::anfordern(char zustand) {
 }
 
 void Messzyklus::nachTick(std::function<void()> befehl) {
-  if (imTick_) {
-    wartendeBefehle_.push_back(std::move(befehl));
+  if (imTick_ && !gestoert_) {
+    wartenderBefehl_ = std::move(befehl);
   } else {
     befehl();
   }
@@ -167,12 +167,13 @@ void Messzyklus::tick(void (Messzyklus::*arbeit)()) {
 }
 
 void Messzyklus::wartendesTun() {
-  for (const auto& befehl : std::exchange(wartendeBefehle_, {})) {
-    try {
-      befehl();
-    } catch (const std::exception&) {
-      verbindungVerloren();
-    }
+  const auto befehl = std::exchange(wartenderBefehl_, nullptr);
+  if (!befehl || entladen_) return;
+  try {
+    befehl();
+  } catch (const std::exception&) {
+    // Inside of the recovery it goes on by itself.
+    if (!gestoert_) verbindungVerloren();
   }
 }
 
@@ -192,6 +193,7 @@ bool Messzyklus::frage(char befehl, double limit) {
   const bool online = marken_.online;
   const std::string nutzdaten = anfrage(u_.antwort, aufgabe_.filter(), befehl);
   if (!u_.korCom.KameraAbfrage(control_, nutzdaten, limit, u_.antwort, online)) return false;
+  gestoert_ = false;
   if (online) ansicht_.zeigeTelegramm(vonCp1252(u_.antwort.LetztesTelegramm));
   return true;
 }
@@ -204,6 +206,12 @@ void Messzyklus::tickPolling() {
   }
   tasteAuswerten();
   zustandAuswerten();
+}
+
+bool Messzyklus::abgeschlossen() {
+  // The data of a closing window are saved or given up already: nothing more is begun or taken.
+  if (schliessen_) tmrPolling_->setEnabled(true);
+  return schliessen_;
 }
 
 void Messzyklus::tasteAuswerten() {
@@ -237,11 +245,7 @@ void Messzyklus::statusIcons() {
 }
 
 void Messzyklus::zustandAuswerten() {
-  // A closing window begins nothing more: its data are saved or given up already.
-  if (schliessen_) {
-    tmrPolling_->setEnabled(true);
-    return;
-  }
+  if (abgeschlossen()) return;
   switch (tastenzustand_) {
     case 'M':
     case 'S':
@@ -269,6 +273,7 @@ void Messzyklus::einzelmessung() {
     verbindungVerloren();
     return;
   }
+  if (abgeschlossen()) return;
   if (u_.antwort.Antwortart == 'm') {
     uebernehmen();
     if (control_.DSRHolding()) control_.setRTSEnable(true);
@@ -310,6 +315,7 @@ void Messzyklus::tickJ() {
     verbindungVerloren();
     return;
   }
+  if (abgeschlossen()) return;
   // A command may have ended the run while the answer was awaited.
   if (!laeuft_) {
     tmrPolling_->setEnabled(true);
@@ -383,6 +389,9 @@ void Messzyklus::verbindungVerloren() {
   laufBeenden();
   tmrPolling_->setEnabled(false);
   icon(IconFunk);
+  // No reading is under way from here to the next answer, so no command has to wait.
+  gestoert_ = true;
+  wartendesTun();
   try {
     wiederverbinden();
   } catch (const std::exception&) {

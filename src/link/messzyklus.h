@@ -3,7 +3,6 @@
 #include <functional>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "frame/clock.h"
 #include "frame/dictionary.h"
@@ -64,8 +63,9 @@ class Messzyklus {
   /// Ends a running measurement with all that belongs to it; nothing without one.
   void laufBeenden();
 
-  /// Runs `befehl` at once, or, while a tick is under way, as soon as it has ended. For commands that replace
-  /// or clear the data: a reading that is under way must not land in them.
+  /// Runs `befehl` at once, or, while a telegram is under way, as soon as its tick has ended: a reading must
+  /// not land in data that a command replaced or cleared. One command waits at most, the last one. While the
+  /// link is lost none waits.
   void nachTick(std::function<void()> befehl);
 
   /// The first closing request, after the user's consent: the next tick unloads the window.
@@ -97,6 +97,7 @@ class Messzyklus {
   void antwortImLauf();
   bool laufGehtWeiter(const LaufSchritt& schritt);
   void wartendesTun();
+  bool abgeschlossen();
   void statusIcons();
   bool frage(char befehl, double limit);
   void uebernehmen();
@@ -122,7 +123,8 @@ class Messzyklus {
   bool imTick_ = false;
   bool infoFrisch_ = false;  ///< the tag of `imgInfo`
   Farbe led_ = FarbeGrau;
-  std::vector<std::function<void()>> wartendeBefehle_;
+  bool gestoert_ = false;  ///< the link is lost, from its recovery to the next answer
+  std::function<void()> wartenderBefehl_;
   /// Gone with the cycle: what outlives it can tell.
   std::shared_ptr<const Messzyklus*> lebt_ = std::make_shared<const Messzyklus*>(this);
 };

@@ -1,5 +1,6 @@
 #include "position/commands.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "frame/cp1252.h"
@@ -15,6 +16,7 @@ constexpr std::int16_t TextKind = 505;
 constexpr std::int16_t TextOeffnen = 2044;
 constexpr std::int16_t TextSpeichernUnter = 2045;
 constexpr std::int16_t TextAenderungen = 6009;
+constexpr std::int16_t StatusGeladen = 1;
 constexpr std::int16_t StatusGespeichert = 2;
 
 }  // namespace
@@ -43,14 +45,17 @@ bool PositionsBefehle::M_Neu(const std::function<void()>& entschieden) {
 
 bool PositionsBefehle::M_Oeffnen(const std::function<void()>& entschieden) {
   if (!aenderungenBehandelt()) return false;
+  const std::int16_t behandelt = u_.formpos.Info().AnzahlMP;
   const std::string name =
       dateiErfragen(u_.fileDialog, messordner(), u_.dictionary.DicText(TextKind) + "(*.O)|*.O",
                     u_.dictionary.DicText(TextOeffnen), true);
   if (name.empty()) return false;
-  entschieden();
+  // A run goes on behind the dialog: points that came meanwhile are asked for too.
+  if (u_.formpos.Info().AnzahlMP != behandelt && !aenderungenBehandelt()) return false;
   // Its messages speak of the file's kind.
   u_.system.Messart = MessartPosition;
   if (!u_.dateien.o_DateiLaden(name)) return false;
+  entschieden();
   u_.erfassung.bildUebernehmen();
   return true;
 }
@@ -70,9 +75,15 @@ bool PositionsBefehle::M_SpeichernUnter() {
   if (!bytes || !decltype(info.DateiName)::fits(*bytes)) return u_.dateien.o_DateiSpeichern(name);
   info.InfoAbbruch = !u_.dateiInfo.bearbeiten(info);
   if (info.InfoAbbruch) return false;
+  const auto vorherName = info.DateiName;
+  const std::int16_t vorherStatus = info.DateiStatus;
   info.DateiName = *bytes;
   info.DateiStatus = StatusGespeichert;
-  return schreiben();
+  if (schreiben()) return true;
+  // Nothing stands under the new name, and from the old one the user had turned away: the next Save asks.
+  info.DateiName = vorherName;
+  info.DateiStatus = std::min(vorherStatus, StatusGeladen);
+  return false;
 }
 
 bool PositionsBefehle::schreiben() {

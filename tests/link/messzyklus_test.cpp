@@ -683,16 +683,72 @@ TEST_F(MesszyklusTest, ClosingDuringAPollBeginsNoMeasurement) {
   EXPECT_TRUE(view.hourglass);
 }
 
-TEST_F(MesszyklusTest, FailingCommandEndsInTheRecoveryAndTheNextOneStillRuns) {
+TEST_F(MesszyklusTest, FailingCommandEndsInTheRecovery) {
   goOnline();
-  bool next = false;
-  world.clock.after(0.035, [&] {
-    cycle.nachTick([] { throw std::out_of_range("table"); });
-    cycle.nachTick([&] { next = true; });
-  });
+  world.clock.after(0.035, [&] { cycle.nachTick([] { throw std::out_of_range("table"); }); });
   run(5);
   EXPECT_TRUE(view.raised("ICONFUNK"));
-  EXPECT_TRUE(next);
+  EXPECT_TRUE(cycle.tmrPolling().enabled());
+}
+
+TEST_F(MesszyklusTest, OnlyTheLastCommandWaits) {
+  world.head.delay = 0.3;
+  goOnline();
+  int first = 0;
+  int last = 0;
+  world.clock.after(0.1, [&] {
+    cycle.nachTick([&] { ++first; });
+    cycle.nachTick([&] { ++last; });
+  });
+  run(1);
+  EXPECT_EQ(first, 0);
+  EXPECT_EQ(last, 1);
+}
+
+TEST_F(MesszyklusTest, NoCommandWaitsForALostLink) {
+  world.head.behaviour = [](char) { return std::string{}; };
+  goOnline();
+  double waiting = 0;
+  double lost = 0;
+  world.clock.after(0.5, [&] { cycle.nachTick([&] { waiting = world.clock.elapsed(); }); });
+  world.clock.after(6.0, [&] { cycle.nachTick([&] { lost = world.clock.elapsed(); }); });
+  run(8);
+  EXPECT_NEAR(waiting, 0.031 + 3 * 0.5, 0.1) << "runs as soon as the poll has failed";
+  EXPECT_NEAR(lost, 6.0, 0.01);
+}
+
+TEST_F(MesszyklusTest, CommandsWaitAgainAfterTheLinkIsBack) {
+  world.head.behaviour = [](char) { return std::string{}; };
+  goOnline();
+  run(4);
+  world.head.behaviour = nullptr;
+  run(4);
+  world.head.delay = 0.3;
+  bool duringTick = true;
+  world.clock.after(0.1, [&] { cycle.nachTick([&] { duringTick = cycle.imTick(); }); });
+  run(1);
+  EXPECT_FALSE(duringTick);
+}
+
+TEST_F(MesszyklusTest, AnswerUnderWayIsNotTakenAfterTheClosingQuestion) {
+  for (const char key : {'M', 'J'}) {
+    SCOPED_TRACE(key);
+    test::CycleWorld place;
+    test::RecordingView window;
+    test::RecordingTask measuring;
+    Messzyklus other(place.surroundings(), place.head, measuring, window);
+    place.head.delay = 0.3;
+    other.M_KVNOnline();
+    other.anfordern(key);
+    place.head.behaviour = [&](char command) {
+      // The user closes while the head measures.
+      if (command != 'T') place.clock.after(0.1, [&] { other.schliessenAnfordern(); });
+      return answerFrame(answerBody(command == 'M' ? 'm' : command == 'J' ? 'j' : 'T'));
+    };
+    place.clock.advance(2);
+    EXPECT_EQ(window.unloads, 1);
+    EXPECT_TRUE(measuring.readings.empty());
+  }
 }
 
 TEST_F(MesszyklusTest, WaitingCommandsAreDroppedWithTheWindow) {

@@ -266,16 +266,39 @@ TEST_F(CommandsTest, NameThatDoesNotFitIsRefusedBeforeTheUserTypes) {
   }
 }
 
-TEST_F(CommandsTest, FailedSaveAsKeepsTheNewNameForTheNextTry) {
+TEST_F(CommandsTest, AfterAFailedSaveAsTheNextSaveAsksForTheName) {
   change();
   saved(folder.path("a.O"));
   choose(folder.path("b.O"));
   diskFails();
   EXPECT_FALSE(commands.M_SpeichernUnter());
+  EXPECT_EQ(info().DateiName.trimmed(), folder.path("a.O"));
+  EXPECT_TRUE(info().Geaendert);
   diskWorks();
+  choose(folder.path("c.O"));
   EXPECT_TRUE(commands.M_Speichern());
-  EXPECT_TRUE(exists("b.O"));
+  EXPECT_TRUE(exists("c.O"));
+  EXPECT_FALSE(exists("b.O"));
   EXPECT_FALSE(exists("a.O")) << "the user had turned away from it";
+}
+
+TEST_F(CommandsTest, RefusedFileDecidesNothing) {
+  choose(folder.copyOf("reference/miscount.O"));
+  folder.copyOf("reference/miscount.O1");
+  EXPECT_FALSE(commands.M_Oeffnen(onDecided));
+  EXPECT_EQ(decided, 0) << "a run goes on";
+}
+
+TEST_F(CommandsTest, PointsMeasuredBehindTheOpenDialogAreAskedForToo) {
+  change();
+  answer(MessageAnswer::no);      // the points so far are given up
+  answer(MessageAnswer::cancel);  // those that came meanwhile are not
+  fileDialog.whileOpen = [this] { change(); };
+  choose(folder.copyOf("reference/point.O"));
+  folder.copyOf("reference/point.O1");
+  EXPECT_FALSE(commands.M_Oeffnen(onDecided));
+  EXPECT_EQ(world.messages.shown.size(), 2U);
+  EXPECT_EQ(info().AnzahlMP, 2);
 }
 
 }  // namespace

@@ -38,6 +38,7 @@ std::string TestDictionary::DicText(std::int16_t id) {
 
 std::string TestFileDialog::choose(const FileDialogRequest& request) {
   requests.push_back(request);
+  if (whileOpen) whileOpen();
   return takeFirst(answers, std::string{});
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -71,6 +72,7 @@ class TestFileDialog : public FileDialog {
   std::string choose(const FileDialogRequest& request) override;
 
   std::vector<FileDialogRequest> requests;
+  std::function<void()> whileOpen;  ///< runs while the dialog is open
   std::deque<std::string> answers;
 };
 
