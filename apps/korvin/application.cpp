@@ -25,6 +25,7 @@ bool preparePlatform() {
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
   setApplicationName(QStringLiteral("korvin"));
+  // No display name: Qt would add it to the titles of the measuring windows.
   setDesktopFileName(QStringLiteral("korvin"));
   setWindowIcon(icon(QStringLiteral("ICONKORVIN")));
   // The decimal mark is the point, in every language.

@@ -177,6 +177,8 @@ void MDIKorvin::ersteAktivierung() {
     close();
     return;
   }
+  // The search took the focus away; back to where no entry looks chosen.
+  startScreen_->setFocus();
   statusBeschriften();
 }
 

@@ -1,0 +1,109 @@
+#include "korvin/station.h"
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QMessageBox>
+#include <QTimer>
+#include <fstream>
+
+#include "frame/ui/start_tile.h"
+#include "support/temp_folder.h"
+
+namespace korvin {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The whole station on a user's empty folders. The search for the head is left out: it takes real time.
+class StationTest : public ::testing::Test {
+ protected:
+  StationTest() {
+    environment.executableFolder = KORVIN_BIN;
+    environment.home = home.path();
+    look.callOnTimeout([this] { answerBox(); });
+    look.start(0);
+  }
+
+  /// Starts the program anew on what the last run left.
+  bool start() {
+    station.reset();
+    boxes.clear();
+    station = std::make_unique<Station>(environment, Appearance::light);
+    station->window().beiErsterAktivierung = [this] {
+      ++activations;
+      return true;
+    };
+    const bool started = station->start();
+    QApplication::processEvents();
+    return started;
+  }
+
+  void answerBox() {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (box == nullptr) return;
+    boxes << box->text();
+    box->accept();
+  }
+
+  fs::path programFolder() const { return home.path() / ".local/share/korvin"; }
+  fs::path settingsFile() const { return home.path() / ".config/korvin/settings.db"; }
+
+  test::TempFolder home;
+  FolderEnvironment environment;
+  QTimer look;
+  QStringList boxes;
+  int activations = 0;
+  std::unique_ptr<Station> station;
+};
+
+TEST_F(StationTest, TheFirstStartMakesSettingsAndFoldersAndSaysSo) {
+  ASSERT_TRUE(start());
+  EXPECT_EQ(boxes.size(), 1);
+  EXPECT_TRUE(fs::exists(settingsFile()));
+  EXPECT_TRUE(fs::exists(programFolder() / "korvin.mdb"));
+  EXPECT_TRUE(fs::exists(programFolder() / "KorHelpD.HLP"));
+  EXPECT_TRUE(fs::is_directory(programFolder() / "KorFiles"));
+  EXPECT_TRUE(station->window().isVisible());
+  EXPECT_EQ(activations, 1);
+}
+
+TEST_F(StationTest, TheSecondStartAsksNothingAndKeepsTheLanguage) {
+  ASSERT_TRUE(start());
+  station->window().findChild<QAction*>(QStringLiteral("M_SprachArt(5)"))->trigger();
+  ASSERT_TRUE(start());
+  EXPECT_TRUE(boxes.isEmpty());
+  EXPECT_TRUE(station->window().findChild<QAction*>(QStringLiteral("M_SprachArt(5)"))->isChecked());
+  EXPECT_EQ(station->window().findChild<StartTile*>(QStringLiteral("StartTile(Position)"))->text(),
+            QStringLiteral("Positionsmätning"));
+}
+
+TEST_F(StationTest, PositionIsReadyOtherKindsAreNot) {
+  ASSERT_TRUE(start());
+  EXPECT_TRUE(station->window().findChild<QAction*>(QStringLiteral("M_Position"))->isEnabled());
+  EXPECT_FALSE(station->window().findChild<QAction*>(QStringLiteral("M_Geradheit"))->isEnabled());
+}
+
+TEST_F(StationTest, ASettingsFileThatIsNoDatabaseIsKeptAndTold) {
+  fs::create_directories(settingsFile().parent_path());
+  std::ofstream(settingsFile()) << "this was something else";
+  ASSERT_TRUE(start());
+  ASSERT_EQ(boxes.size(), 1);
+  EXPECT_TRUE(station->window().isVisible());
+  std::ifstream file(settingsFile());
+  std::string words;
+  std::getline(file, words);
+  EXPECT_EQ(words, "this was something else");
+}
+
+TEST_F(StationTest, SettingsThatCannotBeMadeEndTheProgramWithAMessage) {
+  std::ofstream(home.path() / ".config") << "a file where the folder should be";
+  EXPECT_FALSE(start());
+  ASSERT_EQ(boxes.size(), 2);
+  EXPECT_TRUE(boxes.last().startsWith(QStringLiteral("The settings could not be created")));
+  EXPECT_EQ(activations, 0);
+}
+
+}  // namespace
+}  // namespace korvin
