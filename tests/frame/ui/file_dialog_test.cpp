@@ -25,7 +25,7 @@ class QtFileDialogTest : public ::testing::Test {
 
   /// Types `name` into the dialog and presses its accepting button.
   std::string typed(const QString& name, bool open) {
-    QTimer::singleShot(0, qApp, [name, open] {
+    QTimer::singleShot(0, qApp, [name] {
       auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
       ASSERT_NE(dialog, nullptr);
       auto* entry = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
