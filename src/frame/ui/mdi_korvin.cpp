@@ -233,7 +233,6 @@ void MDIKorvin::oeffnen(const std::string& filter) {
   const std::string folder =
       MessOrdner(u_.profil.wert(einstellung::Hauptfenster::PfadMessFile), u_.programFolder);
   const std::string chosen = messdateiErfragen(u_.fileDialog, u_.dictionary, filter, folder);
-  if (chosen.empty()) return;
   showHourglass();
   u_.verteilung.verteilen(chosen);
   showNormalPointer();

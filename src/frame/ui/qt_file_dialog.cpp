@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTreeView>
+#include <QUrl>
 
 #include "frame/datei_dialog.h"
 #include "frame/ui/mouse_pointer.h"
@@ -103,6 +104,7 @@ std::string QtFileDialog::choose(const FileDialogRequest& request) {
   dialog.setFileMode(request.open ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
   dialog.setNameFilters(nameFilters(qText(request.filter)));
   dialog.setDirectory(qText(request.folder));
+  dialog.setSidebarUrls({QUrl::fromLocalFile(qText(request.folder)), QUrl::fromLocalFile(QDir::homePath())});
   dialog.followEntry();
   dialog.fitColumns();
   dialog.resize(scaled(820), scaled(540));

@@ -65,6 +65,7 @@ StartScreen::StartScreen(QWidget* parent)
 
 void StartScreen::buildHead(QVBoxLayout& into) {
   head_->setObjectName(QStringLiteral("Head_Text"));
+  line_->setObjectName(QStringLiteral("Head_Line"));
   QPalette soft = line_->palette();
   soft.setColor(QPalette::WindowText, themeColour(ThemeColour::softText));
   line_->setPalette(soft);

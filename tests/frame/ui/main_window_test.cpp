@@ -31,7 +31,7 @@ class MDIKorvinTest : public MainWindowStand {
       words.insert(tile->objectName() + QStringLiteral(" line"), tile->accessibleDescription());
       if (!tile->isEnabled()) words.insert(tile->objectName() + QStringLiteral(" why"), tile->toolTip());
     }
-    for (const char* label : {"Head_Text", "PanelStatus2"}) {
+    for (const char* label : {"Head_Text", "Head_Line", "PanelStatus2"}) {
       words.insert(QString::fromLatin1(label),
                    window->findChild<QLabel*>(QString::fromLatin1(label))->text());
     }

@@ -175,6 +175,8 @@ TEST_F(QtMSCommTest, AHangUpClosesOnceAndTheLossShowsUntilTheNextOpening) {
   EXPECT_EQ(line->read(4), "back");
   line->write("hello");
   until([&] { return control.InBufferCount() == 5; });
+  control.setPortOpen(false);
+  EXPECT_NE(errorOf([&] { control.Input(); }), EIO) << "the loss is over";
 }
 
 TEST_F(QtMSCommTest, AHangUpDoesNotSpinTheQueue) {
