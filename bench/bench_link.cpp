@@ -1,6 +1,6 @@
 // Transactions through KameraAbfrage and the real serial port on a pseudo-terminal, against a bare write and
-// read on the same terminal with the same head behind it. Both alternate in blocks, so that what else the
-// machine does meets both alike. Last, the processor time that a wait for a slow head costs.
+// read on another one with the same head behind it. Both alternate one by one, so that what else the machine
+// does meets both alike. Last, the processor time that a wait for a slow head costs.
 #include <fcntl.h>
 #include <pty.h>
 #include <termios.h>
@@ -28,11 +28,9 @@ namespace korvin {
 namespace {
 
 using Watch = std::chrono::steady_clock;
-using std::chrono::microseconds;
 
 constexpr std::size_t requestLength = 17;
-constexpr int blocks = 40;
-constexpr int perBlock = 500;
+constexpr int transactions = 20000;
 
 /// A head in a thread of its own: answers each request after `delay`.
 class EchoHead {
@@ -84,12 +82,10 @@ class EchoHead {
 struct Series {
   std::vector<double> each;
   template <class F>
-  void block(F transaction) {
-    for (int i = 0; i < perBlock; ++i) {
-      const auto start = Watch::now();
-      if (!transaction()) std::printf("a transaction failed\n");
-      each.push_back(std::chrono::duration<double, std::micro>(Watch::now() - start).count());
-    }
+  void measure(F transaction) {
+    const auto start = Watch::now();
+    if (!transaction()) std::printf("a transaction failed\n");
+    each.push_back(std::chrono::duration<double, std::micro>(Watch::now() - start).count());
   }
   double percentile(double part) {
     const auto place =
@@ -136,18 +132,18 @@ bool bareTransaction(int line, const std::string& request, std::size_t answerLen
   return true;
 }
 
-void compare(EchoHead& head, Link& link) {
+void compare(EchoHead& bareHead, Link& link) {
   Series bare;
   Series ours;
   const std::string request(requestLength, 'q');
-  for (int block = 0; block < blocks; ++block) {
-    const int line = open(head.path.c_str(), O_RDWR | O_NOCTTY);
-    bare.block([&] { return bareTransaction(line, request, head.answer.size()); });
-    close(line);
-    if (!link.open()) std::printf("the port did not open\n");
-    ours.block([&] { return link.ask(); });
-    link.close();
+  const int line = open(bareHead.path.c_str(), O_RDWR | O_NOCTTY);
+  if (line < 0 || !link.open()) std::printf("a port did not open\n");
+  for (int i = 0; i < transactions; ++i) {
+    bare.measure([&] { return bareTransaction(line, request, bareHead.answer.size()); });
+    ours.measure([&] { return link.ask(); });
   }
+  close(line);
+  link.close();
   std::printf("bare write and read: median %.1f us, p99 %.1f us\n", bare.percentile(0.5),
               bare.percentile(0.99));
   std::printf("KameraAbfrage:       median %.1f us, p99 %.1f us\n", ours.percentile(0.5),
@@ -176,9 +172,10 @@ void waitForSlowHead(EchoHead& head, Link& link) {
 int main(int count, char** arguments) {
   qputenv("QT_NO_GLIB", "1");
   const QCoreApplication application(count, arguments);
+  korvin::EchoHead bareHead;
   korvin::EchoHead head;
   korvin::Link link(head);
-  korvin::compare(head, link);
+  korvin::compare(bareHead, link);
   korvin::waitForSlowHead(head, link);
   return 0;
 }

@@ -141,15 +141,18 @@ bool KorCom::KameraWarten(MSComm& control, double limit, KameraAntwort& antwort)
   const float anfang = clock_.secondsOfDay();
   const float ende = static_cast<float>(static_cast<double>(anfang) + limit);
   antwort.Status = StatusKeineAntwort;
+  bool ereignisseBehandelt = false;
   while (!KameraEmpfang(control, antwort)) {
     const double rest = (static_cast<double>(ende) - static_cast<double>(clock_.secondsOfDay())) * 1000.0;
     const auto schlaf = std::chrono::milliseconds{std::max(1, static_cast<int>(std::min(rest, 1000.0)))};
     pump_.waitForEvents(std::min(laengsterSchlaf, schlaf));
+    ereignisseBehandelt = true;
     const float jetzt = clock_.secondsOfDay();
     if (jetzt > ende) return KameraEmpfang(control, antwort);
     if (jetzt < anfang && aufgeben && aufgeben()) return false;
   }
-  pump_.processEvents();
+  // The window lives in every wait, also in one whose answer lay ready.
+  if (!ereignisseBehandelt) pump_.processEvents();
   return true;
 }
 

@@ -18,10 +18,10 @@ void QtEventPump::waitForEvents(std::chrono::milliseconds longest) {
     processEvents();
     return;
   }
-  // The alarm has no receiver: it only wakes the queue.
-  alarm_.start(longest);
+  // The alarm has no receiver: it only wakes the queue. One that an earlier wait left, and that comes soon
+  // enough, serves again, which spares most waits the setting and stopping.
+  if (!alarm_.isActive() || alarm_.remainingTimeAsDuration() > longest) alarm_.start(longest);
   QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-  alarm_.stop();
 }
 
 }  // namespace korvin

@@ -2,7 +2,9 @@
 
 #include <QFileInfo>
 #include <QScopedValueRollback>
+#include <algorithm>
 #include <cerrno>
+#include <iterator>
 #include <utility>
 
 #include "frame/ui/qt_text.h"
@@ -131,7 +133,12 @@ int QtMSComm::InBufferCount() {
 
 std::string QtMSComm::Input() {
   demandOpen();
-  return port_.readAll().toStdString();
+  // Not readAll: it makes room for far more than a telegram, at each call.
+  std::string bytes(static_cast<std::size_t>(port_.bytesAvailable()), '\0');
+  if (!bytes.empty()) {
+    bytes.resize(static_cast<std::size_t>(std::max<qint64>(0, port_.read(bytes.data(), std::ssize(bytes)))));
+  }
+  return bytes;
 }
 
 void QtMSComm::Output(const std::string& bytes) {
