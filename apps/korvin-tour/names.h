@@ -13,7 +13,7 @@ inline const QString fileDialog = QStringLiteral("CMDialogDatei");
 inline const QString fileEntry = QStringLiteral("fileNameEdit");
 inline const QString fileInfo = QStringLiteral("FormDateiInfoO");
 inline const QString information = QStringLiteral("FormInfo");
-inline const QString guide = QStringLiteral("HelpViewer");
+inline const QString guide = QStringLiteral("CMDialogHilfe");
 inline const QString ok = QStringLiteral("cmdOK");
 
 inline const QString single = QStringLiteral("XYMP1");

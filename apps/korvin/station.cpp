@@ -38,7 +38,7 @@ Station::Station(const FolderEnvironment& environment, Appearance appearance)
       kopfsuche_({clock_, pump_, profil_, korCom_, MSCommKamera_, KameraAntwort_}, dictionary_, messages_,
                  messplatz_.meldung),
       positionsErfassung_(
-          {clock_, pump_, messages_, dictionary_, profil_, messplatz_.meldung, messplatz_.system, formpos_}),
+          {clock_, messages_, dictionary_, profil_, messplatz_.meldung, messplatz_.system, formpos_}),
       positionsDateien_({fileSystem_, messages_, messplatz_.meldung, dictionary_, profil_, formpos_}),
       positionStarter_({cycle(), formpos_, positionsErfassung_, positionsDateien_, fileDialog_,
                         [this] { return std::make_unique<QtMSComm>(portFinder()); },

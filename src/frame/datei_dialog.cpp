@@ -58,9 +58,10 @@ std::string vervollstaendigterName(std::string_view name, std::string_view filte
 }
 
 std::string dateiErfragen(FileDialog& dialog, std::string_view ordner, std::string_view filter,
-                          std::string_view titel, bool oeffnen) {
+                          std::string_view titel, bool oeffnen, std::string_view vorschlag) {
   const FileDialogRequest request{std::string(ordner), std::string(filter.empty() ? "*.*" : filter),
-                                  std::string(titel.empty() ? "Dateiauswahl" : titel), oeffnen};
+                                  std::string(titel.empty() ? "Dateiauswahl" : titel), oeffnen,
+                                  std::string(vorschlag)};
   const std::string chosen = dialog.choose(request);
   return oeffnen && exists(chosen) ? chosen : vervollstaendigterName(chosen, request.filter);
 }

@@ -10,6 +10,7 @@ struct FileDialogRequest {
   std::string filter;  ///< pairs of a text and a pattern, all separated by '|': "Position (*.O)|*.O"
   std::string title;   ///< caption; empty gives "Dateiauswahl"
   bool open = true;    ///< false: the name of a file to be saved
+  std::string name{};  ///< name without folder that is offered; may be empty
 };
 
 /// The file dialog. A port.

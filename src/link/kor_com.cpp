@@ -207,9 +207,9 @@ bool KorCom::simuliert(std::string_view nutzdaten, KameraAntwort& antwort) {
   return true;
 }
 
-std::string KorCom::FilterText(char filterstufe, Dictionary& dictionary) {
+std::string KorCom::FilterText(char Filterstufe, Dictionary& dictionary) {
   const auto* zeile = std::find_if(filterzeilen.begin(), filterzeilen.end(),
-                                   [filterstufe](const Filterzeile& z) { return z.stufe == filterstufe; });
+                                   [Filterstufe](const Filterzeile& z) { return z.stufe == Filterstufe; });
   if (zeile == filterzeilen.end()) {
     messzeitLimit_ = 5;
     justageZeitLimit_ = 3;

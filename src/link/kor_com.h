@@ -63,7 +63,7 @@ class KorCom {
 
   /// The measuring time of a filter level as text; sets the two limits as a side effect. Levels beyond "4"
   /// have the text "???" and medium limits.
-  std::string FilterText(char filterstufe, Dictionary& dictionary);
+  std::string FilterText(char Filterstufe, Dictionary& dictionary);
 
   double SensorHalbbereich() const { return sensorHalbbereich_; }
   void setSensorHalbbereich(double mm) { sensorHalbbereich_ = mm; }

@@ -60,9 +60,9 @@ std::string rahmenBilden(std::string_view nutzdaten, int modul) {
   return rahmen;
 }
 
-std::string anfrage(const KameraAntwort& antwort, char filterstufe, char befehl) {
+std::string anfrage(const KameraAntwort& antwort, char Filterstufe, char befehl) {
   const std::string nummer = std::to_string(antwort.KameraNr);
-  return {nummer.front(), filterstufe, '-', '-', befehl};
+  return {nummer.front(), Filterstufe, '-', '-', befehl};
 }
 
 RahmenSuche rahmenSuchen(std::string_view puffer) {

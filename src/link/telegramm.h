@@ -29,7 +29,7 @@ bool PruefzeichenPruefen(std::string_view rumpf, int modul);
 std::string rahmenBilden(std::string_view nutzdaten, int modul);
 
 /// The payload of a request: head id, filter level, "--", command letter.
-std::string anfrage(const KameraAntwort& antwort, char filterstufe, char befehl);
+std::string anfrage(const KameraAntwort& antwort, char Filterstufe, char befehl);
 
 /// What a look at the received characters finds.
 struct RahmenSuche {

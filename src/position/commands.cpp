@@ -67,7 +67,7 @@ bool PositionsBefehle::M_Speichern() {
 bool PositionsBefehle::M_SpeichernUnter() {
   const std::string name =
       dateiErfragen(u_.fileDialog, messordner(), u_.dictionary.DicText(TextKind) + "(*.O)|",
-                    u_.dictionary.DicText(TextSpeichernUnter), false);
+                    u_.dictionary.DicText(TextSpeichernUnter), false, bisherigerName());
   if (name.empty()) return false;
   PositionsInfo& info = u_.formpos.Info();
   const std::optional<std::string> bytes = zuCp1252(name);
@@ -95,6 +95,11 @@ bool PositionsBefehle::schreiben() {
   }
   info.Geaendert = false;
   return true;
+}
+
+std::string PositionsBefehle::bisherigerName() const {
+  const std::string name = pfadTeilen(vonCp1252(u_.formpos.Info().DateiName.trimmed())).name;
+  return name == "*.O" ? std::string() : name;
 }
 
 std::string PositionsBefehle::messordner() {

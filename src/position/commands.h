@@ -67,6 +67,8 @@ class PositionsBefehle {
  private:
   bool schreiben();
   std::string messordner();
+  /// The file's name without its folder; empty as long as the measurement has none.
+  std::string bisherigerName() const;
 
   BefehlUmgebung u_;
 };

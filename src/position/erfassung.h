@@ -4,7 +4,6 @@
 
 #include "frame/clock.h"
 #include "frame/dictionary.h"
-#include "frame/event_pump.h"
 #include "frame/message_port.h"
 #include "frame/messplatz.h"
 #include "frame/profil.h"
@@ -16,7 +15,6 @@ namespace korvin {
 /// What position measuring works with. All outlive it.
 struct ErfassungUmgebung {
   const Clock& clock;
-  EventPump& pump;
   MessagePort& messages;
   Dictionary& dictionary;
   Profil& profil;

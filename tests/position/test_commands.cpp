@@ -58,8 +58,8 @@ class CommandsTest : public ::testing::Test {
   test::FaultyFileSystem disk;
   test::CycleWorld world;
   FORMPOS formpos;
-  PositionsErfassung task{{world.clock, world.clock, world.messages, world.dictionary, world.profil,
-                           world.meldung, world.system, formpos}};
+  PositionsErfassung task{
+      {world.clock, world.messages, world.dictionary, world.profil, world.meldung, world.system, formpos}};
   test::TestFileDialog fileDialog;
   TestFileInfo fileInfo;
   PositionsDateien files{{disk, world.messages, world.meldung, world.dictionary, world.profil, formpos}};
@@ -213,6 +213,19 @@ TEST_F(CommandsTest, NewAndLoadedDataAskForTheName) {
   EXPECT_EQ(fileDialog.requests[0].filter, "D505(*.O)|");
   EXPECT_EQ(fileDialog.requests[0].title, "D2045");
   EXPECT_FALSE(fileDialog.requests[0].open);
+}
+
+TEST_F(CommandsTest, SaveAsOffersTheNameThatTheMeasurementHas) {
+  info().DateiName = "/mess/*.O";
+  commands.M_SpeichernUnter();
+  info().DateiName = "/mess/rail.O";
+  commands.M_SpeichernUnter();
+  info().DateiName = "";
+  commands.M_SpeichernUnter();
+  ASSERT_EQ(fileDialog.requests.size(), 3U);
+  EXPECT_EQ(fileDialog.requests[0].name, "") << "a mask is no name";
+  EXPECT_EQ(fileDialog.requests[1].name, "rail.O");
+  EXPECT_EQ(fileDialog.requests[2].name, "");
 }
 
 TEST_F(CommandsTest, SaveAsAsksForInformationAndWrites) {

@@ -30,8 +30,8 @@ class ErfassungTest : public ::testing::Test {
 
   test::CycleWorld world;
   FORMPOS formpos;
-  PositionsErfassung task{{world.clock, world.clock, world.messages, world.dictionary, world.profil,
-                           world.meldung, world.system, formpos}};
+  PositionsErfassung task{
+      {world.clock, world.messages, world.dictionary, world.profil, world.meldung, world.system, formpos}};
   test::RecordingView view;
   Messzyklus cycle{world.surroundings(), world.head, task, view};
 };

@@ -165,7 +165,7 @@ TEST_F(PositionFileTest, EveryBadFileIsRefusedAndEveryOddOneShownAsItStands) {
     if (loaded) {
       test::TestClock clock;
       Systemwerte systemwerte;
-      PositionsErfassung window({clock, clock, messages, dictionary, profil, meldung, systemwerte, formpos});
+      PositionsErfassung window({clock, messages, dictionary, profil, meldung, systemwerte, formpos});
       window.bildUebernehmen();
       window.cursorBewegen(1);
       window.offsetSchalten(true);

@@ -52,7 +52,7 @@ class CycleStand {
   TestProgramEnd programEnd;
   SqliteDictionary dictionary{system.SpracheSpalte, programEnd};
   FORMPOS formpos;
-  PositionsErfassung task{{clock, link.pump, link.messages, dictionary, profil, message, system, formpos}};
+  PositionsErfassung task{{clock, link.messages, dictionary, profil, message, system, formpos}};
   RecordingView view;
   Messzyklus cycle{{clock, link.pump, timers, link.messages, dictionary, profil, message, link.korCom,
                     link.answer, system},

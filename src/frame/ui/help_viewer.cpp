@@ -30,7 +30,7 @@ HelpViewer::HelpViewer(Dictionary& dictionary, QWidget* parent)
       bar_(new KeyToolBar(QStringLiteral("tbrHilfe"), this)),
       words_(new QLineEdit(this)),
       page_(new HelpPage(this)) {
-  setObjectName(QStringLiteral("HelpViewer"));
+  setObjectName(QStringLiteral("CMDialogHilfe"));
   setWindowTitle(QStringLiteral("KORVIN - ") + qText(dictionary.DicText(textHelp)));
   buildBar(dictionary);
   auto* rows = new QVBoxLayout(this);

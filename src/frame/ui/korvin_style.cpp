@@ -1,6 +1,9 @@
 #include "frame/ui/korvin_style.h"
 
 #include <QIcon>
+#include <QPainter>
+#include <QPainterPath>
+#include <QStyleOption>
 
 #include "frame/ui/icons.h"
 #include "frame/ui/theme.h"
@@ -49,6 +52,21 @@ const char* pictureKey(QStyle::StandardPixmap standard) {
   }
 }
 
+/// A check mark that fills the height of `place`.
+void paintCheckMark(QPainter& painter, const QRectF& place, const QColor& colour) {
+  const double side = std::min(place.width(), place.height());
+  const QPointF centre = place.center();
+  QPainterPath mark;
+  mark.moveTo(centre + QPointF(-0.38, 0.02) * side);
+  mark.lineTo(centre + QPointF(-0.1, 0.3) * side);
+  mark.lineTo(centre + QPointF(0.38, -0.28) * side);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(colour, side / 7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.drawPath(mark);
+  painter.restore();
+}
+
 }  // namespace
 
 KorvinStyle::KorvinStyle() : QProxyStyle(QStringLiteral("Fusion")) {
@@ -74,6 +92,16 @@ int KorvinStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWi
   // Plain buttons on every desktop.
   if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
   return QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
+void KorvinStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                                const QWidget* widget) const {
+  // Qt's own mark has seven pixels on any screen.
+  if (element == PE_IndicatorMenuCheckMark) {
+    paintCheckMark(*painter, option->rect, option->palette.color(QPalette::Text));
+  } else {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+  }
 }
 
 int KorvinStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {

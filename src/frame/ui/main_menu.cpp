@@ -11,7 +11,8 @@
 namespace korvin {
 
 struct MenuEntry {
-  enum class Form { menu, entry, choice, line };
+  /// A reserved entry has no job: it is always disabled.
+  enum class Form { menu, entry, choice, line, reserved };
 
   const char16_t* menu;  ///< name of the menu in which it stands; empty: the bar
   const char16_t* name;
@@ -32,7 +33,7 @@ constexpr MenuEntry table[] = {
     {u"M_Messung", u"M_Neu", 1002, Form::menu},
     {u"M_Neu", u"M_Geradheit", 1017, Form::entry, -1, u"ICON31"},
     {u"M_Neu", u"M_Parallel", 1018, Form::entry, -1, u"ICON32"},
-    {u"M_Neu", u"M_ParallelForm", 1019},
+    {u"M_Neu", u"M_ParallelForm", 1019, Form::reserved},
     {u"M_Neu", u"M_Rechtwinkligkeit", 1020, Form::entry, -1, u"ICON35"},
     {u"M_Neu", u"M_Position", 1021, Form::entry, -1, u"ICON34"},
     {u"M_Neu", u"", 0, Form::line},
@@ -52,7 +53,7 @@ constexpr MenuEntry table[] = {
     {u"M_IniFile", u"M_File_P", 1037},
     {u"M_IniFile", u"M_File_R", 1038},
     {u"M_IniFile", u"M_File_O", 1050},
-    {u"M_IniFile", u"M_File_F", 1051},
+    {u"M_IniFile", u"M_File_F", 1051, Form::reserved},
     {u"M_Extras", u"M_MassSystem", 1027, Form::menu},
     {u"M_MassSystem", u"M_MassArt", 1028, Form::choice, 0},
     {u"M_MassSystem", u"M_MassArt", 1029, Form::choice, 1},
@@ -111,6 +112,7 @@ QAction* MainMenu::addEntry(QMenu& menu, const MenuEntry& entry) {
   QAction* action = menu.addAction(icon(name(entry.picture)), QString());
   action->setObjectName(fullName(entry));
   action->setCheckable(entry.form == Form::choice);
+  action->setEnabled(entry.form != Form::reserved);
   action->setShortcut(QKeySequence(name(entry.shortcut)));
   QObject::connect(action, &QAction::triggered, &menu, [this, &entry] {
     if (onEntry) onEntry(name(entry.name), entry.index);
@@ -125,7 +127,8 @@ void MainMenu::setCaptions(Dictionary& dictionary) {
     QAction* present = actions_.value(fullName(entry));
     present->setText(qText(dictionary.DicText(entry.text)));
     // An entry without a tooltip of its own would repeat its caption.
-    if (entry.form != Form::menu) present->setToolTip(present->isEnabled() ? QStringLiteral(" ") : later);
+    const bool comes = !present->isEnabled() && entry.form != Form::reserved;
+    if (entry.form != Form::menu) present->setToolTip(comes ? later : QStringLiteral(" "));
   }
 }
 

@@ -51,15 +51,9 @@ QString name(const char16_t* text) {
   return QString::fromUtf16(text);
 }
 
-/// Entries without a window or a handler yet. `M_ParallelForm` and `M_File_F` never had one.
-constexpr std::array<const char16_t*, 8> entriesToCome = {u"M_GeradheitStatistik",
-                                                          u"M_UmgebungsAnalyse",
-                                                          u"M_ParallelForm",
-                                                          u"M_File_G",
-                                                          u"M_File_P",
-                                                          u"M_File_R",
-                                                          u"M_File_O",
-                                                          u"M_File_F"};
+/// Entries without a window yet.
+constexpr std::array<const char16_t*, 6> entriesToCome = {
+    u"M_GeradheitStatistik", u"M_UmgebungsAnalyse", u"M_File_G", u"M_File_P", u"M_File_R", u"M_File_O"};
 
 }  // namespace
 

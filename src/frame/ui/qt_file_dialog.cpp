@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QSplitter>
 #include <QTreeView>
 #include <QUrl>
 
@@ -19,6 +20,8 @@
 
 namespace korvin {
 namespace {
+
+constexpr double foldersWidth = 170;
 
 /// ".O" of "Position (*.O)"; empty if the pattern does not fix it.
 QString extensionOf(const QString& nameFilter) {
@@ -40,6 +43,20 @@ class CompletingDialog : public QFileDialog {
             [this](const QString& filter) { setDefaultSuffix(extensionOf(filter)); });
     setDefaultSuffix(extensionOf(selectedNameFilter()));
     connect(entry_, &QLineEdit::textChanged, this, &CompletingDialog::allowHiddenByFilter);
+  }
+
+  /// Offers `name`, marked so that typing replaces it.
+  void offer(const QString& name) {
+    if (name.isEmpty()) return;
+    selectFile(name);
+    entry_->selectAll();
+  }
+
+  /// The list of folders at the left gets room for its words, the files take the rest.
+  void fitFolders() const {
+    auto* splitter = findChild<QSplitter*>(QStringLiteral("splitter"));
+    const int folders = scaled(foldersWidth);
+    splitter->setSizes({folders, width() - folders});
   }
 
   /// The names take what the other columns leave.
@@ -106,8 +123,10 @@ std::string QtFileDialog::choose(const FileDialogRequest& request) {
   dialog.setDirectory(qText(request.folder));
   dialog.setSidebarUrls({QUrl::fromLocalFile(qText(request.folder)), QUrl::fromLocalFile(QDir::homePath())});
   dialog.followEntry();
+  dialog.offer(qText(request.name));
   dialog.fitColumns();
   dialog.resize(scaled(820), scaled(540));
+  dialog.fitFolders();
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
   return utf8Text(QDir::toNativeSeparators(dialog.selectedFiles().constFirst()));
 }

@@ -1,10 +1,14 @@
 #include "frame/ui/qt_message_port.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QMessageBox>
+#include <QScreen>
+#include <algorithm>
 
 #include "frame/ui/mouse_pointer.h"
 #include "frame/ui/qt_text.h"
+#include "frame/ui/theme.h"
 
 namespace korvin {
 namespace {
@@ -61,6 +65,21 @@ QString plainLines(const std::string& text) {
   return qText(text).replace(QLatin1String("\r\n"), QLatin1String("\n"));
 }
 
+/// A title bar holds the window's icon and keys beside the title.
+constexpr double titleBarKeys = 150;
+
+/// Makes the box wide enough for its title, which the desktop would cut. Its own width follows from the text.
+void fitTitle(QMessageBox& box) {
+  auto* rows = qobject_cast<QGridLayout*>(box.layout());
+  if (rows == nullptr) return;
+  const int title = QFontMetrics(themeFont(1, true)).horizontalAdvance(box.windowTitle());
+  const int width = std::min(title + scaled(titleBarKeys), box.screen()->availableSize().width());
+  const QMargins edges = rows->contentsMargins();
+  rows->addItem(
+      new QSpacerItem(width - edges.left() - edges.right(), 0, QSizePolicy::Minimum, QSizePolicy::Fixed),
+      rows->rowCount(), 0, 1, rows->columnCount());
+}
+
 }  // namespace
 
 MessageAnswer QtMessagePort::show(const Meldung& message, MessageIcon icon, MessageButtons buttons) {
@@ -73,6 +92,7 @@ MessageAnswer QtMessagePort::show(const Meldung& message, MessageIcon icon, Mess
   box.setTextInteractionFlags(Qt::TextSelectableByMouse);
   box.setDefaultButton(set.first);
   box.setEscapeButton(set.escape);
+  fitTitle(box);
   return answerOf(box.exec());
 }
 

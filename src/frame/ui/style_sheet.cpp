@@ -18,6 +18,7 @@ QMenu::item:selected { background: @accentGround; }
 QMenu::item:disabled { color: @softText; }
 QMenu::separator { height: 1px; background: @line; margin: $5 $8; }
 QMenu::icon { padding-left: $6; }
+QMenu::indicator { width: $14; height: $14; left: $7; }
 
 QToolBar { background: @card; border: none; border-bottom: 1px solid @line; padding: $5 $8; spacing: $3; }
 QToolBar::separator { width: 1px; background: @line; margin: $6 $6; }
@@ -46,7 +47,7 @@ QProgressBar { border: none; border-radius: $3; background: @line; min-height: $
 QProgressBar::chunk { background: @accentFill; border-radius: $3; }
 QGroupBox { border: 1px solid @line; border-radius: $8; margin-top: $10; padding: $10 $8 $8 $8; background: @card; }
 QGroupBox::title { subcontrol-origin: margin; left: $12; padding: 0 $4; color: @softText; }
-QHeaderView::section { background: @card; border: none; border-bottom: 1px solid @line; padding: $5 $8; }
+QHeaderView::section { background: @card; border: none; border-bottom: 1px solid @line; padding: $5 $12; }
 QScrollBar:vertical { background: transparent; width: $12; margin: 0; }
 QScrollBar:horizontal { background: transparent; height: $12; margin: 0; }
 QScrollBar::handle { background: @handle; border-radius: $4; margin: $2; }

@@ -1,5 +1,6 @@
 #include "link/ui/kopfsuche.h"
 
+#include <QPointer>
 #include <QScopedValueRollback>
 #include <QWidget>
 
@@ -17,16 +18,22 @@ constexpr std::int16_t textFound = 7120;
 constexpr std::int16_t textNone = 7121;
 
 /// Keeps a window from taking clicks while it lives: a measurement started now would want the port that is
-/// searched.
+/// searched. A disabled window loses its focus, so that is given back.
 class InputLock {
  public:
-  explicit InputLock(QWidget& window) : window_(window) { window_.setEnabled(false); }
-  ~InputLock() { window_.setEnabled(true); }
+  explicit InputLock(QWidget& window) : window_(window), focus_(window.focusWidget()) {
+    window_.setEnabled(false);
+  }
+  ~InputLock() {
+    window_.setEnabled(true);
+    if (focus_ != nullptr) focus_->setFocus();
+  }
   InputLock(const InputLock&) = delete;
   InputLock& operator=(const InputLock&) = delete;
 
  private:
   QWidget& window_;
+  QPointer<QWidget> focus_;
 };
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <QStyledItemDelegate>
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "frame/ui/theme.h"
 
@@ -17,18 +18,28 @@ namespace {
 
 constexpr double rowLines = 1.35;  ///< height of a row in lines of text
 constexpr int rowsWanted = 12;
-constexpr double padding = 16;
+/// Left and right of the words, in headings (by the style sheet) and cells alike.
+constexpr double cellEdge = 12;
 /// The widest text of each column.
 constexpr std::array<const char*, PointListModel::ColumnCount> widest = {"00000", "00.00.0000 / 00:00:00",
                                                                          "-0000.0000", "-0000.0000"};
 
-/// Keeps the figures off the edge of their column, on any screen.
+/// Keeps the figures off the edge of their column, right below their heading, on any screen.
 class PaddedCell : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
-  QString displayText(const QVariant& value, const QLocale& /*locale*/) const override {
-    constexpr char16_t halfEm = 0x2002;
-    return value.toString() + QChar(halfEm);
+  void paint(QPainter* painter, const QStyleOptionViewItem& given, const QModelIndex& index) const override {
+    QStyleOptionViewItem option = given;
+    initStyleOption(&option, index);
+    const QStyle& style = *option.widget->style();
+    const QString words = std::exchange(option.text, QString());
+    style.drawControl(QStyle::CE_ItemViewItem, &option, painter, option.widget);
+    const int edge = scaled(cellEdge);
+    const bool selected = option.state.testFlag(QStyle::State_Selected);
+    painter->setFont(option.font);
+    style.drawItemText(painter, option.rect.adjusted(edge, 0, -edge, 0),
+                       static_cast<int>(option.displayAlignment), option.palette, true, words,
+                       selected ? QPalette::HighlightedText : QPalette::Text);
   }
 };
 
@@ -132,7 +143,7 @@ int PointList::columnWidthOf(int column) const {
   QFont bold = font();
   bold.setBold(true);
   return QFontMetrics(bold).horizontalAdvance(QLatin1String(widest.at(static_cast<std::size_t>(column)))) +
-         scaled(padding);
+         2 * scaled(cellEdge);
 }
 
 void PointList::fitColumns() {

@@ -6,12 +6,14 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QListView>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
 #include "frame/ui/qt_text.h"
+#include "frame/ui/theme.h"
 
 namespace korvin {
 namespace {
@@ -89,6 +91,43 @@ TEST_F(QtFileDialogTest, ReplacingIsAskedForTheCompletedName) {
   });
   EXPECT_EQ(port.choose({utf8Text(folder.path()), "Position|*.O", "", false}), "");
   EXPECT_TRUE(question.contains(QLatin1String("rail.O"))) << question.toStdString();
+}
+
+TEST_F(QtFileDialogTest, TheOfferedNameIsMarkedAndReplacingItIsAsked) {
+  touch(QStringLiteral("rail.O"));
+  QString marked;
+  bool asked = false;
+  QTimer::singleShot(0, qApp, [&] {
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    marked = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->selectedText();
+    QTimer::singleShot(0, dialog, [&asked, dialog] {
+      auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+      asked = box != nullptr && box != dialog;
+      if (asked) box->reject();
+      dialog->reject();
+    });
+    QTest::keyClick(dialog, Qt::Key_Return);
+  });
+  EXPECT_EQ(port.choose({utf8Text(folder.path()), "Position|*.O", "", false, "rail.O"}), "");
+  EXPECT_EQ(marked, QStringLiteral("rail.O"));
+  EXPECT_TRUE(asked);
+}
+
+TEST_F(QtFileDialogTest, TheFoldersHaveRoomForTheirWordsOnALargeScreen) {
+  applyTheme(Appearance::light, 2.1, 0);
+  int room = 0;
+  int words = 0;
+  QTimer::singleShot(0, qApp, [&] {
+    const auto* folders = QApplication::activeModalWidget()->findChild<QListView*>(QStringLiteral("sidebar"));
+    room = folders->viewport()->width();
+    words = folders->sizeHintForColumn(0);
+    QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+  });
+  port.choose({utf8Text(folder.path()), "Position|*.O", "", true});
+  applyTheme(Appearance::light, 0.9, 0);
+  EXPECT_GT(words, 0);
+  EXPECT_GE(room, words);
 }
 
 TEST_F(QtFileDialogTest, CancelGivesTheEmptyTextAndTheTitleHasItsDefault) {

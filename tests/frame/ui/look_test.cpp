@@ -5,6 +5,7 @@
 #include <QImage>
 #include <QKeyEvent>
 #include <QLibraryInfo>
+#include <QMenu>
 #include <QTest>
 #include <QToolButton>
 #include <QTranslator>
@@ -64,6 +65,33 @@ TEST(ThemeTest, SizesFollowTheScale) {
   applyTheme(Appearance::light, 2.0, 0);
   EXPECT_EQ(scaled(10), 20);
   EXPECT_EQ(QApplication::font().pixelSize(), 28);
+  applyTheme(Appearance::light, 0.9, 0);
+}
+
+/// The rectangle in which two pictures of one size differ.
+QRect difference(const QImage& one, const QImage& other) {
+  QRect found;
+  for (int y = 0; y < one.height(); ++y) {
+    for (int x = 0; x < one.width(); ++x) {
+      if (one.pixel(x, y) != other.pixel(x, y)) found |= QRect(x, y, 1, 1);
+    }
+  }
+  return found;
+}
+
+TEST(ThemeTest, TheCheckMarkOfAMenuGrowsWithTheScale) {
+  for (const double scale : {0.9, 2.1}) {
+    applyTheme(Appearance::light, scale, 0);
+    QMenu menu;
+    QAction* entry = menu.addAction(QStringLiteral("mm"));
+    entry->setCheckable(true);
+    menu.resize(menu.sizeHint());
+    const QImage without = menu.grab().toImage();
+    entry->setChecked(true);
+    const QRect mark = difference(without, menu.grab().toImage());
+    EXPECT_GE(mark.width(), scaled(9)) << scale;
+    EXPECT_LE(mark.right(), scaled(30)) << "the words begin here";
+  }
   applyTheme(Appearance::light, 0.9, 0);
 }
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QFontMetrics>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -11,6 +12,7 @@
 
 #include "frame/ui/mouse_pointer.h"
 #include "frame/ui/qt_translations.h"
+#include "frame/ui/theme.h"
 
 namespace korvin {
 namespace {
@@ -82,6 +84,19 @@ TEST(QtMessagePortTest, ButtonsSpeakTheLanguage) {
   EXPECT_EQ(yesIn(5), QStringLiteral("Ja"));
   EXPECT_TRUE(yesIn(6).startsWith(QStringLiteral("是"))) << yesIn(6).toStdString();
   EXPECT_TRUE(yesIn(7).startsWith(QStringLiteral("はい"))) << yesIn(7).toStdString();
+}
+
+TEST(QtMessagePortTest, TheBoxIsWiderThanItsTitle) {
+  const std::string title = "KORVIN-Positionsmessung und noch etwas mehr";
+  int width = 0;
+  onBox([&width](QMessageBox& box) {
+    width = box.width();
+    box.accept();
+  });
+  QtMessagePort().show({title, "?"}, MessageIcon::none, MessageButtons::ok);
+  const int words = QFontMetrics(themeFont(1, true)).horizontalAdvance(QString::fromStdString(title));
+  EXPECT_GE(width, words + scaled(100)) << "beside the title stand the keys of the title bar";
+  EXPECT_LE(width, 1024);
 }
 
 TEST(QtMessagePortTest, TheHourglassRestsWhileABoxIsUp) {

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QProgressBar>
 #include <QTest>
 #include <QWidget>
@@ -92,6 +93,18 @@ TEST_F(KopfsucheTest, AHeadIsFoundAndTheDialogGoes) {
   EXPECT_TRUE(messages.shown.empty());
   EXPECT_EQ(suche.zeile(), "D7120: Com 5, 115200");
   EXPECT_FALSE(suche.laeuft());
+}
+
+TEST_F(KopfsucheTest, TheWindowKeepsItsFocus) {
+  QLineEdit first(&window);
+  QLineEdit second(&window);
+  first.show();
+  second.show();
+  second.setFocus();
+  ASSERT_EQ(window.focusWidget(), &second);
+  headPort = 5;
+  suche.suchen(window);
+  EXPECT_EQ(window.focusWidget(), &second);
 }
 
 TEST_F(KopfsucheTest, TheBarCountsBothPasses) {

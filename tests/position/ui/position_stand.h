@@ -77,9 +77,8 @@ class PositionStand : public ::testing::Test {
   PositionsInfo& info() { return formpos.Info(); }
   PositionsErfassung& erfassung() {
     if (!erfassung_) {
-      erfassung_ = std::make_unique<PositionsErfassung>(
-          ErfassungUmgebung{world.clock, world.clock, world.messages, dictionary(), world.profil,
-                            world.meldung, world.system, formpos});
+      erfassung_ = std::make_unique<PositionsErfassung>(ErfassungUmgebung{
+          world.clock, world.messages, dictionary(), world.profil, world.meldung, world.system, formpos});
     }
     return *erfassung_;
   }
