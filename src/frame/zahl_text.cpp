@@ -74,8 +74,18 @@ Scanned scan(std::string_view text) {
   return number;
 }
 
+/// Whole numbers of so many digits are exact in a double, and need no power of ten.
+constexpr std::size_t exactDigits = 15;
+
+double wholeNumber(const std::string& digits) {
+  std::int64_t value = 0;
+  std::from_chars(digits.data(), digits.data() + digits.size(), value);
+  return static_cast<double>(value);
+}
+
 double magnitude(const Scanned& number) {
   if (number.digits.empty()) return 0;
+  if (number.exponent == 0 && number.digits.size() <= exactDigits) return wholeNumber(number.digits);
   const std::string text = number.digits + "e" + std::to_string(number.exponent);
   double value = 0;
   const auto end = std::from_chars(text.data(), text.data() + text.size(), value);

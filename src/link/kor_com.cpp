@@ -40,6 +40,26 @@ std::int32_t fehlernummer(const std::exception& fehler) {
   return FehlerAllgemein;
 }
 
+/// How long a wait that ends at `ende` may sleep at `jetzt`, both in seconds of the day.
+std::chrono::milliseconds schlafBis(float ende, float jetzt) {
+  const double rest = (static_cast<double>(ende) - static_cast<double>(jetzt)) * 1000.0;
+  const auto schlaf = std::chrono::milliseconds{std::max(1, static_cast<int>(std::min(rest, 1000.0)))};
+  return std::min(laengsterSchlaf, schlaf);
+}
+
+/// Runs `arbeit`; a run-time error in it is counted in `antwort`. True if there was none.
+template <class Arbeit>
+bool gezaehlt(KameraAntwort& antwort, const Arbeit& arbeit) {
+  try {
+    arbeit();
+    return true;
+  } catch (const std::exception& fehler) {
+    if (antwort.COM == 0) antwort.ERR = fehlernummer(fehler);
+    if (antwort.COM < std::numeric_limits<std::int32_t>::max()) ++antwort.COM;
+    return false;
+  }
+}
+
 }  // namespace
 
 std::string SettingsAusBaudRate(int index) {
@@ -55,17 +75,6 @@ KorCom::KorCom(const Clock& clock, EventPump& pump, RandomSource& random, Messag
 
 int KorCom::modul() const {
   return pruefmodul95_ ? Modul95 : Modul223;
-}
-
-bool KorCom::gezaehlt(KameraAntwort& antwort, const std::function<void()>& arbeit) {
-  try {
-    arbeit();
-    return true;
-  } catch (const std::exception& fehler) {
-    if (antwort.COM == 0) antwort.ERR = fehlernummer(fehler);
-    if (antwort.COM < std::numeric_limits<std::int32_t>::max()) ++antwort.COM;
-    return false;
-  }
 }
 
 bool KorCom::ComOeffnen(MSComm& control, std::int16_t port, const std::string& settings,
@@ -141,18 +150,18 @@ bool KorCom::KameraWarten(MSComm& control, double limit, KameraAntwort& antwort)
   const float anfang = clock_.secondsOfDay();
   const float ende = static_cast<float>(static_cast<double>(anfang) + limit);
   antwort.Status = StatusKeineAntwort;
-  bool ereignisseBehandelt = false;
-  while (!KameraEmpfang(control, antwort)) {
-    const double rest = (static_cast<double>(ende) - static_cast<double>(clock_.secondsOfDay())) * 1000.0;
-    const auto schlaf = std::chrono::milliseconds{std::max(1, static_cast<int>(std::min(rest, 1000.0)))};
-    pump_.waitForEvents(std::min(laengsterSchlaf, schlaf));
-    ereignisseBehandelt = true;
-    const float jetzt = clock_.secondsOfDay();
+  if (KameraEmpfang(control, antwort)) {
+    // The window lives on answers that need no wait, too.
+    pump_.processEvents();
+    return true;
+  }
+  float jetzt = anfang;
+  do {
+    pump_.waitForEvents(schlafBis(ende, jetzt));
+    jetzt = clock_.secondsOfDay();
     if (jetzt > ende) return KameraEmpfang(control, antwort);
     if (jetzt < anfang && aufgeben && aufgeben()) return false;
-  }
-  // The window lives in every wait, also in one whose answer lay ready.
-  if (!ereignisseBehandelt) pump_.processEvents();
+  } while (!KameraEmpfang(control, antwort));
   return true;
 }
 

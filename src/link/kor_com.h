@@ -81,9 +81,6 @@ class KorCom {
   int modul() const;
   bool simuliert(std::string_view nutzdaten, KameraAntwort& antwort);
   void messwertSimulieren(char art, KameraAntwort& antwort);
-  /// Runs `arbeit`; a run-time error in it is counted in `antwort`. True if there was none.
-  bool gezaehlt(KameraAntwort& antwort, const std::function<void()>& arbeit);
-
   const Clock& clock_;
   EventPump& pump_;
   RandomSource& random_;
