@@ -108,6 +108,13 @@ TEST(ZahlText, AnyBytesAreReadWithoutHarm) {
   }
 }
 
+TEST(ZahlText, LongNumbersAreTheNearestOfTheirLength) {
+  EXPECT_EQ(zahlAusText("999999999999999"), 999999999999999.0);
+  EXPECT_EQ(zahlAusText("9007199254740993"), 9007199254740992.0);
+  EXPECT_EQ(zahlAusText("12345678901234567890123"), 12345678901234567890123.0);
+  EXPECT_EQ(zahlAusText("-999999999999999999999999"), -1e24);
+}
+
 TEST(ZahlText, WholeNumbers) {
   EXPECT_EQ(ganzzahlAusText("7"), 7);
   EXPECT_EQ(ganzzahlAusText(" 12 "), 12);

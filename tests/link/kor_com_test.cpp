@@ -388,5 +388,22 @@ TEST(LineSettings, IndexAndStringMapBothWays) {
   EXPECT_EQ(BaudRateAusSettings("9600,N,8,1"), 1);
 }
 
+TEST_F(KorComTest, TheWindowLivesAlsoOnAnAnswerThatLiesReady) {
+  open();
+  head.receive(answerFrame(answerBody('T')));
+  bool clicked = false;
+  clock.after(0, [&] { clicked = true; });
+  EXPECT_TRUE(korCom.KameraWarten(head, 0.5, antwort));
+  EXPECT_TRUE(clicked);
+}
+
+TEST_F(KorComTest, TheWindowLivesWhileAnAnswerIsAwaited) {
+  open();
+  bool clicked = false;
+  clock.after(0.005, [&] { clicked = true; });
+  EXPECT_TRUE(ask());
+  EXPECT_TRUE(clicked);
+}
+
 }  // namespace
 }  // namespace korvin
