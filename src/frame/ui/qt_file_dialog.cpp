@@ -7,11 +7,13 @@
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QListView>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSplitter>
 #include <QTreeView>
 #include <QUrl>
+#include <algorithm>
 
 #include "frame/datei_dialog.h"
 #include "frame/ui/mouse_pointer.h"
@@ -22,6 +24,7 @@ namespace korvin {
 namespace {
 
 constexpr double foldersWidth = 170;
+constexpr double foldersMargin = 40;
 
 /// ".O" of "Position (*.O)"; empty if the pattern does not fix it.
 QString extensionOf(const QString& nameFilter) {
@@ -55,7 +58,8 @@ class CompletingDialog : public QFileDialog {
   /// The list of folders at the left gets room for its words, the files take the rest.
   void fitFolders() const {
     auto* splitter = findChild<QSplitter*>(QStringLiteral("splitter"));
-    const int folders = scaled(foldersWidth);
+    const auto* list = findChild<QListView*>(QStringLiteral("sidebar"));
+    const int folders = std::max(scaled(foldersWidth), list->sizeHintForColumn(0) + scaled(foldersMargin));
     splitter->setSizes({folders, width() - folders});
   }
 
