@@ -115,8 +115,10 @@ class Save {
   }
 
   SaveResult replaceTogether() {
-    int result = journal_.commit(keepOld());
-    if (result == 0) result = syncFolders(system_, group_);
+    const std::string before = keepOld();
+    // All names beside have to outlast a power cut before the journal says that they count.
+    int result = syncFolders(system_, group_);
+    if (result == 0) result = journal_.commit(before);
     if (result < 0) return withdrawn(result);
     result = moveForward(system_, group_, at_);
     if (result < 0) return at_ == 0 ? withdrawn(result) : undone(result);

@@ -10,20 +10,20 @@ int unlessGone(int result) {
   return result == -ENOENT ? 0 : result;
 }
 
-bool isThere(FileSystem& system, const std::string& path) {
+/// Gives one target what it held before the save.
+int moveBackOne(FileSystem& system, const SaveNames& names, char before) {
   FileInfo info;
-  return system.infoOf(path, info) != -ENOENT;
+  const int fresh = system.infoOf(names.fresh, info);
+  if (fresh != -ENOENT) return fresh;  // the new file never came into place
+  // Where there was none, the new file gets its name beside again, from where it is swept.
+  if (before == 'o') return unlessGone(system.rename(names.old, names.target));
+  if (before == 'n') return unlessGone(system.rename(names.target, names.fresh));
+  return 0;
 }
 
 int moveBack(FileSystem& system, const SaveGroup& group, const SaveJournal& journal) {
   for (std::size_t i = 0; i < group.files.size(); ++i) {
-    const SaveNames& names = group.files[i];
-    int result = 0;
-    if (journal.before(i) == 'o') result = system.rename(names.old, names.target);
-    // A new file gets its name beside again, from where it is swept.
-    if (journal.before(i) == 'n' && !isThere(system, names.fresh))
-      result = system.rename(names.target, names.fresh);
-    if (unlessGone(result) < 0) return result;
+    if (const int result = moveBackOne(system, group.files[i], journal.before(i)); result < 0) return result;
   }
   return 0;
 }
