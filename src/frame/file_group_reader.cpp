@@ -9,7 +9,8 @@
 namespace korvin {
 namespace {
 
-constexpr int mostTries = 100;  // openings that a save came between
+// Openings that a save came between: about a second of another program saving without a pause.
+constexpr int mostTries = 10000;
 
 }  // namespace
 

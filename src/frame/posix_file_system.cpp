@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <chrono>
@@ -75,13 +76,15 @@ int PosixFileSystem::close(int file) {
 
 int PosixFileSystem::lock(int file) {
   using namespace std::chrono_literals;
-  int result = -EWOULDBLOCK;
-  for (int tries = 0; tries < 40 && result == -EWOULDBLOCK; ++tries) {
-    if (tries > 0)
-      std::this_thread::sleep_for(50ms);  // another program's save takes no longer than a few of these
-    result = answer([&] { return ::flock(file, LOCK_EX | LOCK_NB); });
+  // Looked for often at first: a program that saves again and again leaves short gaps only.
+  const auto end = std::chrono::steady_clock::now() + 2s;
+  auto between = 20us;
+  while (true) {
+    const int result = answer([&] { return ::flock(file, LOCK_EX | LOCK_NB); });
+    if (result != -EWOULDBLOCK || std::chrono::steady_clock::now() > end) return result;
+    std::this_thread::sleep_for(between);
+    between = std::min<std::chrono::microseconds>(between * 2, 1ms);
   }
-  return result;
 }
 
 int PosixFileSystem::info(int file, FileInfo& to) {

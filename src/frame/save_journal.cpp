@@ -9,11 +9,12 @@ namespace {
 
 constexpr std::string_view commitMark = "KORVIN commit ";
 constexpr std::string_view undoMark = "undo\n";
+constexpr int mostTries = 10000;  // journals that came and went before they could be held
 
 }  // namespace
 
 int SaveJournal::acquire(const std::string& path, FileSystem::Open how) {
-  for (int tries = 0; tries < 100; ++tries) {
+  for (int tries = 0; tries < mostTries; ++tries) {
     file_ = FileHandle(system_, system_.open(path, how));
     if (!file_.isOpen()) return file_.get();
     // Other failures tell of a file system without locks; no second program saves there.

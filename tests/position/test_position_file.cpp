@@ -53,7 +53,7 @@ class PositionFileTest : public ::testing::Test {
   }
 
   TestFolder folder;
-  PosixFileSystem system;
+  test::UnflushedFileSystem system;
   test::TestMessages messages;
   test::TestDictionary dictionary;
   test::MemorySettingsTree tree;
@@ -300,6 +300,38 @@ TEST_F(PositionFileTest, EachFailingCallIsToldAndLeavesHeadAndPointsTogether) {
       EXPECT_TRUE(points == 40U || (points == 3U && !saved));
     }
   }
+}
+
+TEST_F(PositionFileTest, EachCallThatFailsWhileLoadingIsToldAndLeavesThePresentMeasurement) {
+  measure(40);
+  ASSERT_TRUE(save(folder.path("a.O")));
+  bool reached = true;
+  for (int at = 1; reached; ++at) {
+    SCOPED_TRACE(at);
+    measure(3);
+    formpos.bild() = {};
+    messages.shown.clear();
+    test::FaultyFileSystem faulty;
+    faulty.failAt = at;
+    const bool loaded = files(faulty).o_DateiLaden(folder.path("a.O"));
+    reached = faulty.calls >= at;
+    EXPECT_EQ(loaded, messages.shown.empty());
+    EXPECT_EQ(formpos.punkte().X().anzahl(), loaded ? 40U : 3U);
+    EXPECT_EQ(formpos.bild().Info.AnzahlMP, loaded ? 40 : 0);
+    if (!loaded) {
+      EXPECT_EQ(onlyMessage().title, "D1100 (o_DateiLaden): " + std::to_string(EIO));
+    }
+  }
+}
+
+TEST_F(PositionFileTest, SavesAndLoadsThroughTheSystemItself) {
+  PosixFileSystem real;
+  measure(7);
+  ASSERT_TRUE(files(real).o_DateiSpeichern(folder.path("a.O")));
+  measure(1);
+  ASSERT_TRUE(files(real).o_DateiLaden(folder.path("a.O")));
+  EXPECT_EQ(formpos.punkte().X().anzahl(), 7U);
+  EXPECT_EQ(folder.names(), (std::vector<std::string>{"a.O", "a.O1"}));
 }
 
 TEST_F(PositionFileTest, AThousandKillsLeaveHeadAndPointsTogether) {
