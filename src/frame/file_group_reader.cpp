@@ -5,6 +5,7 @@
 
 #include "frame/safe_save.h"
 #include "frame/save_group.h"
+#include "frame/save_journal.h"
 
 namespace korvin {
 namespace {
@@ -45,10 +46,9 @@ bool FileGroupReader::allCurrent() {
   std::vector<std::string> paths;
   for (const File& file : files_) paths.push_back(file.path);
   SaveGroup group;
-  FileInfo info;
   if (SaveGroup::of(system_, paths, group) < 0) return false;
   // In this order: a save that exchanges files after the look at its journal began after the openings.
-  if (system_.infoOf(group.journal, info) == 0) return false;
+  if (SaveJournal::stateOf(system_, group.journal) != SaveJournal::State::preparing) return false;
   return std::all_of(files_.begin(), files_.end(), [this](const File& file) {
     FileInfo present;
     const int result = system_.infoOf(file.path, present);

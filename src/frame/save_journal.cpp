@@ -24,6 +24,14 @@ int SaveJournal::acquire(const std::string& path, FileSystem::Open how) {
   return -EWOULDBLOCK;
 }
 
+SaveJournal::State SaveJournal::stateOf(FileSystem& system, const std::string& path) {
+  SaveJournal journal(system);
+  journal.file_ = FileHandle(system, system.open(path, FileSystem::Open::read));
+  if (journal.file_.get() == -ENOENT) return State::preparing;
+  // One that cannot be read may be anywhere.
+  return journal.file_.isOpen() && journal.read() == 0 ? journal.state_ : State::committed;
+}
+
 bool SaveJournal::isCurrent(const std::string& path) {
   FileInfo held;
   FileInfo named;

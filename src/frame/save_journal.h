@@ -27,6 +27,9 @@ class SaveJournal {
   /// how far the save came. 0, or minus the error number.
   int acquire(const std::string& path, FileSystem::Open how);
 
+  /// How far the save of that journal is, looked at without taking it: `preparing` if there is none.
+  static State stateOf(FileSystem& system, const std::string& path);
+
   State state() const { return state_; }
   /// True while nothing is written in it.
   bool isNew() const { return isNew_; }

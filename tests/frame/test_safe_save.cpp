@@ -277,7 +277,7 @@ TEST(SafeSave, TwoProgramsAndAReaderNeverMixGenerations) {
   };
   test::KillableChild first(saveOnAndOn("a"));
   test::KillableChild second(saveOnAndOn("b"));
-  for (int i = 0; i < 1000; ++i) {
+  for (int i = 0; i < 500; ++i) {
     const auto read = pair.read(system);
     ASSERT_TRUE(read.has_value());
     ASSERT_FALSE(read->empty());

@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <chrono>
+#include <functional>
 #include <random>
 
 #include "frame/safe_save.h"
@@ -404,6 +405,57 @@ TEST(SafeSavePowerCut, WhileAnUnfinishedSaveIsBroughtToItsEndLeavesOldOrNewWhole
       dieReading(disk, save.pair, 1 + way % 25);
       disk.cut(random);
       ASSERT_NO_FATAL_FAILURE(expectWhole(disk, save));
+    }
+  }
+}
+
+/// A disk on which another program does something just before one of this program's calls.
+class SharedDisk : public FaultyDisk {
+ public:
+  int open(const std::string& path, Open how, std::uint32_t permissions) override {
+    meet();
+    return FaultyDisk::open(path, how, permissions);
+  }
+  int infoOf(const std::string& path, FileInfo& to) override {
+    meet();
+    return FaultyDisk::infoOf(path, to);
+  }
+
+  int meetAt = 0;  ///< the call, counted from 1
+  std::function<void()> other;
+  bool met = false;
+
+ private:
+  void meet() {
+    if (met || --meetAt != 0) return;
+    met = true;
+    other();
+  }
+};
+
+TEST(SafeSaveFaults, SaveThatComesBetweenTheCallsOfAReaderIsSeenWholeOrNotAtAll) {
+  const int calls = callsOfASave(true);
+  for (int dieAt = 1; dieAt <= calls + 1;
+       ++dieAt) {  // with the last one the other program's save is complete
+    bool met = true;
+    for (int meetAt = 1; met; ++meetAt) {
+      SCOPED_TRACE(testing::Message() << "before call " << meetAt << ", to its call " << dieAt);
+      const SavedPair pair;
+      SharedDisk disk;
+      pair.save(static_cast<PowerCutDisk&>(disk), "old");
+      disk.meetAt = meetAt;
+      disk.other = [&] {
+        disk.calls = 0;
+        disk.dieAt = dieAt;
+        try {
+          pair.save(disk, "new");
+        } catch (const test::Died&) {
+        }
+        disk.dieAt = 0;
+      };
+      const auto found = pair.read(disk);
+      met = disk.met;
+      ASSERT_TRUE(found == "old" || found == "new") << found.value_or("mixed");
     }
   }
 }
