@@ -1,9 +1,20 @@
 # How the folders become targets. A subsystem's folder is its core, its ui/ folder the part that may know Qt.
 
-# korvin_core(NAME LINKS ...): src/NAME/*.cpp as korvin_NAME, without Qt: a stray include fails to compile.
+# korvin_core(NAME [FOLDER ...] LINKS ...): src/NAME/*.cpp (or src/FOLDER/*.cpp) as korvin_NAME, without Qt: a stray
+# include fails to compile.
 function(korvin_core name)
-  cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
-  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${name}/*.cpp ${CMAKE_SOURCE_DIR}/src/${name}/*.h)
+  cmake_parse_arguments(ARG "" "FOLDER" "LINKS" ${ARGN})
+  if(NOT ARG_FOLDER)
+    set(ARG_FOLDER ${name})
+  endif()
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${ARG_FOLDER}/*.cpp
+       ${CMAKE_SOURCE_DIR}/src/${ARG_FOLDER}/*.h)
+  if(NOT sources)
+    add_library(korvin_${name} INTERFACE)
+    target_include_directories(korvin_${name} INTERFACE ${CMAKE_SOURCE_DIR}/src)
+    target_link_libraries(korvin_${name} INTERFACE ${ARG_LINKS})
+    return()
+  endif()
   add_library(korvin_${name} STATIC ${sources})
   set_target_properties(korvin_${name} PROPERTIES LINKER_LANGUAGE CXX)
   target_include_directories(korvin_${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
