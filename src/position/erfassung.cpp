@@ -11,6 +11,7 @@
 #include "frame/zahl_text.h"
 #include "link/kor_com.h"
 #include "link/messwert.h"
+#include "position/xy_diagram.h"
 
 namespace korvin {
 namespace {
@@ -90,6 +91,8 @@ void PositionsErfassung::neueMessung() {
 
 void PositionsErfassung::bildUebernehmen() {
   u_.formpos.bildUebernehmen();
+  // The file tells what was drawn when it was saved; here nothing of it is drawn yet.
+  rahmenVerwerfen(u_.formpos.arbeit());
   u_.formpos.Info().DateiStatus = 1;  // loaded, whatever the file's own bytes say
   verbindungLesen();
 }
@@ -118,8 +121,7 @@ bool PositionsErfassung::offsetSchalten(bool an) {
   arbeit.X.Offset = an ? u_.formpos.punkte().X().at(index) : 0;
   arbeit.Y.Offset = an ? u_.formpos.punkte().Y().at(index) : 0;
   u_.formpos.statistikNeu();
-  arbeit.X.BereichAlt = 0;
-  arbeit.Y.BereichAlt = 0;
+  rahmenVerwerfen(arbeit);
   return true;
 }
 
@@ -133,8 +135,7 @@ void PositionsErfassung::cursorBewegen(int schritt) {
 void PositionsErfassung::M_MessLöschen() {
   PositionsDatei& arbeit = u_.formpos.arbeit();
   u_.formpos.messungLoeschen();
-  arbeit.X.BereichAlt = 0;
-  arbeit.Y.BereichAlt = 0;
+  rahmenVerwerfen(arbeit);
   arbeit.Info.OffsetAktiv = false;
   arbeit.Info.OffsetMP = 0;
   arbeit.X.Offset = 0;
