@@ -1,0 +1,39 @@
+#include "straightness/formgera.h"
+
+#include <stdexcept>
+
+namespace korvin {
+
+void ReiheLeeren(GeradReihe& reihe) {
+  LinienGeometrie& linie = reihe.Linie;
+  if (linie.AnzMPs == 1) throw std::domain_error("a single point has no step");
+  // A negative count becomes a huge one, which is refused as well.
+  const auto anzahl = static_cast<std::size_t>(linie.AnzMPs);
+  reihe.X.Wert.setAnzahl(anzahl);
+  reihe.Y.Wert.setAnzahl(anzahl);
+  reihe.X.Wert.clearFrom(1);
+  reihe.Y.Wert.clearFrom(1);
+  linie.ZSchritt = linie.Distanz / (linie.AnzMPs - 1);
+  for (std::size_t i = 1; i <= anzahl; ++i) linie.Z.at(i) = static_cast<double>(i - 1) * linie.ZSchritt;
+  linie.AktMP = 1;
+  GeradInfo& info = reihe.Info;
+  info.Ref1 = 1;
+  info.Ref2 = linie.AnzMPs;
+  info.ZeigeMittel = false;
+  info.ZeigeStreuung = false;
+  info.ZeigeSpanne = false;
+  info.ZeigeAbschnitt = false;
+}
+
+double ZWert(const LinienGeometrie& linie, std::int16_t punkt) {
+  return linie.Z.at(static_cast<std::size_t>(punkt));
+}
+
+void FORMGERA::bildUebernehmen() {
+  reihe_ = bild_;
+  reihe_.X.BereichAlt = 0;
+  reihe_.Y.BereichAlt = 0;
+  reihe_.Info.DateiStatus = 1;  // loaded, whatever the file's own bytes say
+}
+
+}  // namespace korvin

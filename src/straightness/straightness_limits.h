@@ -1,0 +1,14 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace korvin {
+
+/// Most points of a straightness measurement, and of one line of a parallelism measurement.
+inline constexpr std::size_t MaxPunkteG = 201;
+
+/// `AbschnittStart` where no section was found.
+inline constexpr std::int16_t KeinAbschnitt = 999;
+
+}  // namespace korvin
