@@ -145,7 +145,7 @@ const std::vector<std::vector<std::int16_t>> menus = {
     {7180, 1001, 1025, 7190, 7100, 1052},        // bar of FormPosition
     {1002, 1007, 7181, 7182, 7183, 1024},        // M_Datei
     {7185, 7186, 7187, 7188},                    // measuring
-    {7191, 7192},                                // M_Panel
+    {7191, 7192, 7370},                          // M_Panel
     {7101, 7102},                                // link
 };
 

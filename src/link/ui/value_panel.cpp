@@ -13,10 +13,6 @@ constexpr double hintLines = 2.4;  ///< wanted height in lines of the window's f
 
 }  // namespace
 
-QColor qColour(Farbe farbe) {
-  return {farbe & 0xFF, (farbe >> 8) & 0xFF, (farbe >> 16) & 0xFF};
-}
-
 QColor panelGround() {
   return {0x14, 0x1b, 0x24};
 }

@@ -4,6 +4,7 @@
 #include <QString>
 
 #include "frame/farbe.h"
+#include "frame/ui/qt_colour.h"
 
 namespace korvin {
 
@@ -34,9 +35,6 @@ class ValuePanel : public QLabel {
 
   QString widest_;
 };
-
-/// The colour of a number 0xBBGGRR.
-QColor qColour(Farbe farbe);
 
 /// Ground of the measuring panels, and the tone of the captions on it.
 QColor panelGround();

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <QFont>
+#include <QHash>
+#include <QPainter>
+#include <QRectF>
+#include <QSizeF>
+
+#include "frame/drawing_surface.h"
+
+namespace korvin {
+
+/// How large things are on a picture. All in units of its painter: device pixels of an image, units of an
+/// SVG.
+struct PictureMetrics {
+  QSizeF size;             ///< of the whole picture
+  double lineWidth = 1;    ///< of the thinnest line
+  double textPixels = 12;  ///< text of the size 1
+};
+
+/// The metrics that fit a picture of `size` pixels on a screen with `pixelRatio`: lines of whole pixels, and
+/// a text that grows with the picture, but never gets too small to be read.
+PictureMetrics pictureMetrics(const QSizeF& size, double pixelRatio);
+
+/// Draws a diagram with a QPainter. A port's implementation: see `DrawingSurface`.
+///
+/// `Edges::crisp` lays lines along the axes and edges of rectangles on whole units, so that they neither blur
+/// nor differ in width; for pictures of pixels. `Edges::exact` leaves all where it is; for SVG and paper.
+class PainterSurface : public DrawingSurface {
+ public:
+  enum class Edges { crisp, exact };
+
+  /// The painter's origin is the picture's top left corner. It has to outlive the surface.
+  PainterSurface(QPainter& painter, const PictureMetrics& metrics, Edges edges);
+
+  void setWindow(const DataWindow& window) override;
+  const DataWindow& window() const { return window_; }
+
+  void clear(Farbe ground) override;
+  void line(DataPoint from, DataPoint to, const Stroke& stroke) override;
+  void polyline(std::span<const DataPoint> points, const Stroke& stroke) override;
+  void circle(DataPoint centre, double radius, const Stroke& stroke) override;
+  void disc(DataPoint centre, double radius, Farbe colour) override;
+  void fill(DataPoint corner, DataPoint opposite, Farbe colour) override;
+  void text(DataPoint at, std::string_view utf8, const TextLook& look, Anchor anchor) override;
+  DataSize textSize(std::string_view utf8, const TextLook& look) override;
+  DataSize lineWidth() override;
+
+  /// Where a data point lies, in units of the painter.
+  QPointF place(DataPoint point) const;
+
+ protected:
+  /// For a surface that makes its painter when one is needed first; see `painter()`.
+  PainterSurface(const PictureMetrics& metrics, Edges edges) : metrics_(metrics), edges_(edges) {}
+
+  virtual QPainter& painter() { return *painter_; }
+  /// Something was drawn within `area`.
+  virtual void touched(const QRectF& area) { static_cast<void>(area); }
+
+  double radiusOnPicture(double radius) const;
+  double widthOnPicture(const Stroke& stroke) const { return stroke.width * metrics_.lineWidth; }
+  const PictureMetrics& metrics() const { return metrics_; }
+
+ private:
+  struct Scale {
+    double x = 1;
+    double y = 1;
+  };
+  bool alongAxis(QPointF from, QPointF to, const Stroke& stroke) const;
+  void crispLine(QPointF from, QPointF to, const Stroke& stroke);
+  QFont font(const TextLook& look) const;
+
+  QPainter* painter_ = nullptr;
+  PictureMetrics metrics_;
+  Edges edges_;
+  DataWindow window_;
+  Scale scale_;
+};
+
+}  // namespace korvin
