@@ -1,0 +1,69 @@
+#include "reports/tabelle.h"
+
+#include <algorithm>
+
+#include "reports/druck_hilfen.h"
+
+namespace korvin {
+namespace {
+
+constexpr double schrift = 9;
+constexpr double zeilenHoehe = 6;
+constexpr double kopfRegel = 6;   // below the headings
+constexpr double zeilenRegel = 5; // below a row
+constexpr double fussnoteY = 268;
+constexpr double fussnotenSchrift = 7;
+
+void tabellenKopf(Drucker& drucker, const Tabelle& tabelle, double y) {
+  schriftSetzen(drucker, fussnotenSchrift);
+  PositionSetzen(drucker, LinkerRand, fussnoteY);
+  LinksDruck(drucker, tabelle.fussnote);
+  schriftSetzen(drucker, schrift);
+  PositionSetzen(drucker, LinkerRand, y);
+  LinksDruck(drucker, tabelle.titel, tabelle.spalten.front().kopfX);
+  for (const TabellenSpalte& spalte : tabelle.spalten) {
+    PositionSetzen(drucker, spalte.kopfX, y);
+    drucker.drucke(spalte.kopf);
+  }
+  regel(drucker, LinkerRand, y + kopfRegel, tabelle.regelRechts, y + kopfRegel);
+}
+
+void tabellenZeile(Drucker& drucker, const Tabelle& tabelle, double y, int i) {
+  for (const TabellenSpalte& spalte : tabelle.spalten) {
+    PositionSetzen(drucker, spalte.x, y);
+    if (spalte.rechtsbuendig) {
+      RechtsDruck(drucker, spalte.wert(i), spalte.grenze);
+    } else {
+      LinksDruck(drucker, spalte.wert(i), spalte.grenze);
+    }
+    const std::string_view marke = spalte.marke ? spalte.marke(i) : std::string_view();
+    if (!marke.empty()) drucker.drucke(marke);
+  }
+  regel(drucker, LinkerRand, y + zeilenRegel, tabelle.regelRechts, y + zeilenRegel);
+}
+
+/// Rows from `erste` on; the number of the first that has no room any more.
+int zeilenDrucken(Drucker& drucker, const Tabelle& tabelle, const TabellenPlatz& platz, int erste) {
+  const int ende = std::min(erste + platz.zeilen, tabelle.anzahl + 1);
+  for (int i = erste; i < ende; ++i) {
+    tabellenZeile(drucker, tabelle, platz.zeilenY + (i - erste + 1) * zeilenHoehe, i);
+  }
+  return ende;
+}
+
+}  // namespace
+
+void tabellenSeiten(Seitenrahmen& rahmen, const Tabelle& tabelle, const std::function<void()>& ueberTabelle) {
+  const TabellenPlatz* platz = &tabelle.erste;
+  int naechste = 1;
+  do {
+    rahmen.SeiteKopf();
+    if (naechste == 1) ueberTabelle();
+    tabellenKopf(rahmen.drucker(), tabelle, platz->kopfY);
+    naechste = zeilenDrucken(rahmen.drucker(), tabelle, *platz, naechste);
+    rahmen.SeiteFuss();
+    platz = &tabelle.weitere;
+  } while (naechste <= tabelle.anzahl);
+}
+
+}  // namespace korvin
