@@ -6,6 +6,7 @@
 
 #include "frame/cp1252.h"
 #include "frame/date_format.h"
+#include "frame/filterzeit.h"
 #include "frame/leerwert.h"
 #include "frame/message_port.h"
 #include "frame/number_format.h"
@@ -19,24 +20,6 @@ constexpr std::string_view programm = "WIN-KORVIN, Version 5.55 / qk ";
 template <std::size_t N>
 std::string utf8(const FesterText<N>& text) {
   return vonCp1252(text.trimmed());
-}
-
-/// The measuring time of a level; nothing for a level that has none.
-std::string_view filterzeit(char stufe) {
-  switch (stufe) {
-    case '0':
-      return "0.5s";
-    case '1':
-      return "1s";
-    case '2':
-      return "2s";
-    case '3':
-      return "5s";
-    case '4':
-      return "10s";
-    default:
-      return {};
-  }
 }
 
 std::string wert(double zahl) {

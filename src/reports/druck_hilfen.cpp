@@ -5,9 +5,9 @@
 namespace korvin {
 namespace {
 
-constexpr double kleinsteSchrift = 1;   // points
-constexpr double spielraum = 0.001;     // mm: what rounding may cost a text that just fits
-constexpr double nachgabe = 0.97;       // font sizes need not scale evenly on every medium
+constexpr double kleinsteSchrift = 1;  // points
+constexpr double spielraum = 0.001;    // mm: what rounding may cost a text that just fits
+constexpr double nachgabe = 0.97;      // font sizes need not scale evenly on every medium
 
 /// The font shrunk until `text` takes no more than `raum`, for as long as this lives.
 class PassendeSchrift {

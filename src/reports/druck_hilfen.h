@@ -7,10 +7,10 @@
 /// What all reports print with. Lengths are millimetres from the page's top left corner.
 namespace korvin {
 
-inline constexpr double LinkerRand = 20;   ///< where texts and rules begin
-inline constexpr double RechterRand = 190; ///< where rules end, and texts at the latest
+inline constexpr double LinkerRand = 20;    ///< where texts and rules begin
+inline constexpr double RechterRand = 190;  ///< where rules end, and texts at the latest
 inline constexpr double SeitenBreite = 210;
-inline constexpr double SeitenHoehe = 292; ///< of the user scale; A4 goes on for 5 mm
+inline constexpr double SeitenHoehe = 292;  ///< of the user scale; A4 goes on for 5 mm
 
 inline constexpr std::string_view BerichtSchrift = "ARIAL";
 inline constexpr Farbe FarbeSchwarz = 0x000000;

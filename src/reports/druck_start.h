@@ -13,9 +13,9 @@ struct DruckUmgebung {
   Dictionary& dictionary;
 };
 
-/// The print entry of all reports: composes `bericht` on `drucker`. True if it is complete. A failure is shown
-/// in a message with the system's error number (0 where there is none), and gives false; the print job is left
-/// as it was. `DruckAbgebrochen` passes.
+/// The print entry of all reports: composes `bericht` on `drucker`. True if it is complete. A failure is
+/// shown in a message with the system's error number (0 where there is none), and gives false; the print job
+/// is left as it was. `DruckAbgebrochen` passes.
 bool DruckStart(const Bericht& bericht, Drucker& drucker, const DruckUmgebung& umgebung);
 
 }  // namespace korvin

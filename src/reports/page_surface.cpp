@@ -86,30 +86,18 @@ void PageSurface::polyline(std::span<const DataPoint> points, const Stroke& stro
   setWidth(stroke.width);
   double dashed = 0;
   for (std::size_t i = 1; i < points.size(); ++i) {
-    const DataPoint from = points[i - 1];
-    const DataPoint to = points[i];
-    if (!finite(from) || !finite(to)) continue;
+    if (!finite(points[i - 1]) || !finite(points[i])) continue;
+    const auto segment = clipped(points[i - 1], points[i]);
+    if (!segment) continue;
     if (stroke.style == LineStyle::solid) {
-      clippedLine(from, to, stroke.colour);
+      drawn(*segment, stroke.colour);
     } else {
-      dashed = dashedLine(from, to, stroke, dashed);
+      dashed = dashes(*segment, stroke, dashed);
     }
   }
 }
 
-double PageSurface::dashedLine(DataPoint from, DataPoint to, const Stroke& stroke, double dashed) {
-  const Pattern pattern = patternOf(stroke.style);
-  const double period = pattern.on + pattern.off;
-  const double length = lengthInMm(from, to);
-  for (double begin = -dashed; begin < length; begin += period) {
-    const double on = std::max(begin, 0.0);
-    const double off = std::min(begin + pattern.on, length);
-    if (off > on) clippedLine(between(from, to, on / length), between(from, to, off / length), stroke.colour);
-  }
-  return std::fmod(dashed + length, period);
-}
-
-void PageSurface::clippedLine(DataPoint from, DataPoint to, Farbe colour) {
+std::optional<PageSurface::Segment> PageSurface::clipped(DataPoint from, DataPoint to) const {
   const Box b = box();
   const double dx = to.x - from.x;
   const double dy = to.y - from.y;
@@ -117,10 +105,26 @@ void PageSurface::clippedLine(DataPoint from, DataPoint to, Farbe colour) {
   double end = 1;
   if (!narrow(-dx, from.x - b.xLow, begin, end) || !narrow(dx, b.xHigh - from.x, begin, end) ||
       !narrow(-dy, from.y - b.yLow, begin, end) || !narrow(dy, b.yHigh - from.y, begin, end))
-    return;
-  const DataPoint first = begin > 0 ? between(from, to, begin) : from;
-  const DataPoint last = end < 1 ? between(from, to, end) : to;
-  drucker_.linie(first.x, first.y, last.x, last.y, colour);
+    return std::nullopt;
+  return Segment{begin > 0 ? between(from, to, begin) : from, end < 1 ? between(from, to, end) : to};
+}
+
+double PageSurface::dashes(const Segment& segment, const Stroke& stroke, double dashed) {
+  const Pattern pattern = patternOf(stroke.style);
+  const double period = pattern.on + pattern.off;
+  const double length = lengthInMm(segment.from, segment.to);
+  for (double begin = -dashed; begin < length; begin += period) {
+    const double on = std::max(begin, 0.0);
+    const double off = std::min(begin + pattern.on, length);
+    if (off <= on) continue;
+    drawn({between(segment.from, segment.to, on / length), between(segment.from, segment.to, off / length)},
+          stroke.colour);
+  }
+  return std::fmod(dashed + length, period);
+}
+
+void PageSurface::drawn(const Segment& segment, Farbe colour) {
+  drucker_.linie(segment.from.x, segment.from.y, segment.to.x, segment.to.y, colour);
 }
 
 bool PageSurface::circleIsInside(DataPoint centre, double radius) const {

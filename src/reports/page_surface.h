@@ -33,13 +33,19 @@ class PageSurface : public DrawingSurface {
     double yLow;
     double yHigh;
   };
+  struct Segment {
+    DataPoint from;
+    DataPoint to;
+  };
   Box box() const;
   double lengthInMm(DataPoint from, DataPoint to) const;
   bool circleIsInside(DataPoint centre, double radius) const;
   void arcs(DataPoint centre, double radius, const Stroke& stroke);
-  /// Draws a line from `dashed` mm into the pattern on; where in the pattern its end stands.
-  double dashedLine(DataPoint from, DataPoint to, const Stroke& stroke, double dashed);
-  void clippedLine(DataPoint from, DataPoint to, Farbe colour);
+  /// What of a line lies inside the window.
+  std::optional<Segment> clipped(DataPoint from, DataPoint to) const;
+  /// Draws a line from `dashed` mm into the pattern on; how far into it the line's end is.
+  double dashes(const Segment& segment, const Stroke& stroke, double dashed);
+  void drawn(const Segment& segment, Farbe colour);
   void setLook(const TextLook& look);
   void setWidth(double width);
 

@@ -9,8 +9,8 @@ namespace {
 
 constexpr double schrift = 9;
 constexpr double zeilenHoehe = 6;
-constexpr double kopfRegel = 6;   // below the headings
-constexpr double zeilenRegel = 5; // below a row
+constexpr double kopfRegel = 6;    // below the headings
+constexpr double zeilenRegel = 5;  // below a row
 constexpr double fussnoteY = 268;
 constexpr double fussnotenSchrift = 7;
 

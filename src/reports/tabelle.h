@@ -7,18 +7,18 @@
 
 #include "reports/seitenrahmen.h"
 
-/// Tables that go on over pages. A report tells its table as data: columns with their place and texts, how many
-/// rows a page takes, and where they begin. To give a report a table, fill a `Tabelle` and call
+/// Tables that go on over pages. A report tells its table as data: columns with their place and texts, how
+/// many rows a page takes, and where they begin. To give a report a table, fill a `Tabelle` and call
 /// `tabellenSeiten`.
 namespace korvin {
 
 /// A column; x in mm.
 struct TabellenSpalte {
-  double kopfX;       ///< where the heading begins
+  double kopfX;  ///< where the heading begins
   std::string kopf;
-  double x;           ///< where the values begin or, if `rechtsbuendig`, end
+  double x;  ///< where the values begin or, if `rechtsbuendig`, end
   bool rechtsbuendig;
-  double grenze;      ///< how far a value may reach on its other side; longer ones shrink
+  double grenze;  ///< how far a value may reach on its other side; longer ones shrink
   /// The text of row i, from 1. Called for each row as it is printed.
   std::function<std::string(int)> wert;
   /// What stands behind a value; may be missing.

@@ -1,0 +1,243 @@
+#include "reports/prno.h"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "frame/cp1252.h"
+#include "frame/date_format.h"
+#include "frame/filterzeit.h"
+#include "frame/leerwert.h"
+#include "frame/montage.h"
+#include "frame/number_format.h"
+#include "frame/pfade.h"
+#include "frame/zahl_text.h"
+#include "position/statistics_texts.h"
+#include "position/xy_diagram.h"
+#include "reports/druck_hilfen.h"
+#include "reports/page_surface.h"
+
+namespace korvin {
+namespace {
+
+constexpr std::string_view druckZeitMuster = "dd.mm.yy hh:mm:ss";
+// Commas in the time of a row, on purpose: sheets that users keep are read in by this.
+constexpr std::string_view zeilenZeitMuster = "dd.mm.yy / hh,mm,ss";
+constexpr std::string_view ohneWert = "?.?";
+constexpr std::string_view offsetMarke = " !";
+
+constexpr double infoY = 25;
+constexpr std::size_t druckZeile = 5;  // line of the information block that tells the time of printing
+
+// The diagram page.
+constexpr double blockEinzug = 13;
+constexpr double diagrammBlockX = 71;
+constexpr double diagrammBlockY = 78;
+constexpr SeitenRechteck diagrammRechteck{LinkerRand, 80, 177, 177};
+constexpr double diagrammSchrift = 8;
+
+// The table pages.
+constexpr double tabellenBlockX = 65;
+constexpr double tabellenBlockY = 73;
+constexpr TabellenPlatz ersteSeite{85, 88, 28};
+constexpr TabellenPlatz weitereSeiten{33, 33, 36};
+constexpr double nummerX = 55;
+constexpr double zeitX = 75;
+constexpr double ersterWertX = 125;
+constexpr double zweiterWertX = 165;
+constexpr double spaltenLuft = 2;
+constexpr double markenPlatz = 4;  // behind the first value, for the mark of the offset
+
+template <std::size_t N>
+std::string utf8(const FesterText<N>& text) {
+  return vonCp1252(text.trimmed());
+}
+
+std::string linksGetrimmt(std::string text) {
+  text.erase(0, text.find_first_not_of(' '));
+  return text;
+}
+
+/// The bare name of a file; nothing for the mask that a measurement without a file has.
+std::string blanker(const std::string& pfad) {
+  const std::string name = linksGetrimmt(pfadTeilen(pfad).name);
+  return name == "*.O" ? std::string() : name;
+}
+
+void statistik(AchsenInfo& achse, int anzahl) {
+  achse.Mittel = mittelwert(achse, anzahl).value_or(Leerwert);
+  achse.Streuung = standardabweichung(achse, anzahl).value_or(Leerwert);
+}
+
+}  // namespace
+
+// ---- The snapshot ----
+
+PRNO::PRNO(const PositionsBerichtQuelle& quelle, const PositionsBerichtTeile& teile)
+    : datei_(quelle.datei),
+      teile_(teile),
+      masssystem_(quelle.Masssystem),
+      anzahl_(std::clamp<int>(quelle.datei.Info.AnzahlMP, 0, MaxPunkteO)),
+      clock_(quelle.clock),
+      dateiName_(blanker(quelle.dateiName.empty() ? utf8(datei_.Info.DateiName) : quelle.dateiName)),
+      seitenTexte_(seitenTexte(quelle.dictionary, utf8(datei_.Info.FirmaName))) {
+  punkte_.X() = quelle.punkte.X();
+  punkte_.Y() = quelle.punkte.Y();
+  punkte_.T() = quelle.punkte.T();
+  statistik(datei_.X, anzahl_);
+  statistik(datei_.Y, anzahl_);
+  infoZeilen(quelle.dictionary);
+  achsenBloecke(quelle.dictionary);
+  tabelleAnlegen(quelle.dictionary);
+}
+
+std::string PRNO::zahl(double wert) const {
+  return formatNumber(wert, ZahlMuster(datei_.Info.NKStellen));
+}
+
+std::string PRNO::momentText(int nummer, std::string_view muster) const {
+  if (nummer < 1 || nummer > anzahl_) return std::string(ohneWert);
+  const double moment = punkte_.T().at(static_cast<std::size_t>(nummer));
+  return istLeer(moment) ? std::string(ohneWert) : formatDate(moment, muster);
+}
+
+void PRNO::infoZeilen(Dictionary& dictionary) {
+  const PositionsInfo& info = datei_.Info;
+  const auto text = [&dictionary](std::int16_t nummer, std::string_view dahinter = ":") {
+    return dictionary.DicText(nummer) + std::string(dahinter);
+  };
+  const std::string zeitraum = momentText(1, druckZeitMuster) + " - " + momentText(anzahl_, druckZeitMuster);
+  info_ = {
+      {text(3001), {}, {}, {}, true},
+      {text(3044), utf8(info.Bezeichnung), {}, {}},
+      {text(3048), utf8(info.ProgrammText), {}, {}},
+      {text(3050), dateiName_, {}, {}},
+      {text(3008), utf8(info.Bediener), {}, {}},
+      {text(3050, " (t):"), reformatDate(utf8(info.Datum), " dd.mm.yy hh:mm:ss"), text(3051, " (t):"), {}},
+      {text(3010), formatNumber(info.AnzahlMP, "0"), text(3084), zeitraum},
+      {text(3003, "°:"), MontageText(dictionary, info.Montage), text(3013),
+       std::string(filterzeit(info.Filter.full().front()))},
+      {text(3009), utf8(info.Kommentar), {}, {}}};
+}
+
+std::string PRNO::offsetText() const {
+  if (!datei_.Info.OffsetAktiv) return " --";
+  return " " + formatNumber(datei_.Info.OffsetMP, "0") + " / " + zahl(datei_.X.Offset) + " / " +
+         zahl(datei_.Y.Offset);
+}
+
+Block PRNO::achsenBlock(std::string_view name, const AchsenInfo& achse, const std::string& titel) const {
+  const auto wert = [this](const std::string& zeichen, bool vorhanden, double zahlWert) {
+    return vorhanden ? zeichen + " " + zahl(zahlWert) : zeichen + "  " + std::string(ohneWert);
+  };
+  const int SFak = datei_.Info.SFak;
+  return statistikBlock({std::string(name), titel, wert("x", !istLeer(achse.Mittel), achse.Mittel),
+                         wert(formatNumber(SFak, "0") + "s", !istLeer(achse.Streuung), SFak * achse.Streuung),
+                         wert("R", anzahl_ > 0, achse.Maximum - achse.Minimum)});
+}
+
+void PRNO::achsenBloecke(Dictionary& dictionary) {
+  const std::string offset = "  " + dictionary.DicText(3082) + ":" + offsetText();
+  const std::string diagramm = "XY-" + dictionary.DicText(3017) + ":" + offset;
+  const std::string tabelle = "XY-" + dictionary.DicText(3018) + offset;
+  diagrammX_ = achsenBlock("X", datei_.X, diagramm);
+  diagrammY_ = achsenBlock("Y", datei_.Y, diagramm);
+  tabelleX_ = achsenBlock("X", datei_.X, tabelle);
+  tabelleY_ = achsenBlock("Y", datei_.Y, tabelle);
+}
+
+// ---- The table ----
+
+void PRNO::tabelleAnlegen(Dictionary& dictionary) {
+  const std::string achsen = teile_.XTabelle && teile_.YTabelle ? "XY-" : (teile_.XTabelle ? "X-" : "Y-");
+  tabelle_.titel = achsen + dictionary.DicText(3018) + ": ";
+  // Positions are never evaluated: the table has them as they were measured, the offset not taken off.
+  tabelle_.fussnote =
+      dictionary.DicText(3064) + ": " + dictionary.DicText(3060) + "   ! = " + dictionary.DicText(3090);
+  tabelle_.erste = ersteSeite;
+  tabelle_.weitere = weitereSeiten;
+  tabelle_.anzahl = anzahl_;
+  spaltenAnlegen(dictionary);
+}
+
+void PRNO::spaltenAnlegen(Dictionary& dictionary) {
+  tabelle_.spalten.push_back({nummerX,
+                              dictionary.DicText(3066),
+                              nummerX,
+                              true,
+                              LinkerRand,
+                              [](int i) { return formatNumber(i, "0"); },
+                              {}});
+  tabelle_.spalten.push_back({zeitX,
+                              dictionary.DicText(3056) + " / " + dictionary.DicText(3055),
+                              zeitX,
+                              false,
+                              ersterWertX,
+                              [this](int i) { return momentText(i, zeilenZeitMuster); },
+                              {}});
+  double x = ersterWertX;
+  double links = zeitX + 35;
+  const auto anhaengen = [&](std::string_view name, const PunktFeld& werte) {
+    tabelle_.spalten.push_back(wertSpalte(name, x, links, werte));
+    links = x + markenPlatz;
+    x = zweiterWertX;
+  };
+  if (teile_.XTabelle) anhaengen("X", punkte_.X());
+  if (teile_.YTabelle) anhaengen("Y", punkte_.Y());
+}
+
+TabellenSpalte PRNO::wertSpalte(std::string_view name, double x, double links, const PunktFeld& werte) const {
+  const auto wert = [this, &werte](int i) {
+    const double zahlWert = werte.at(static_cast<std::size_t>(i));
+    return istLeer(zahlWert) ? std::string(ohneWert) : zahl(zahlWert);
+  };
+  const auto marke = [this](int i) {
+    return datei_.Info.OffsetAktiv && i == datei_.Info.OffsetMP ? offsetMarke : std::string_view();
+  };
+  const std::string kopf = std::string(name) + "[" + std::string(einheit()) + "]";
+  return {x, kopf, x, true, links + spaltenLuft, wert, marke};
+}
+
+// ---- Composing ----
+
+void PRNO::drucken(Drucker& drucker) const {
+  Seitenrahmen rahmen(drucker, seitenTexte_);
+  if (teile_.XYDiagramm) diagrammSeite(rahmen);
+  if (teile_.XTabelle || teile_.YTabelle) {
+    tabellenSeiten(rahmen, tabelle_, [&] {
+      infoBlock(drucker);
+      if (teile_.XTabelle) blockDrucken(drucker, 0, tabellenBlockX, tabelleX_);
+      if (teile_.YTabelle) blockDrucken(drucker, 0, tabellenBlockY, tabelleY_);
+    });
+  }
+  drucker.dokumentEnde();
+}
+
+void PRNO::infoBlock(Drucker& drucker) const {
+  std::vector<InfoZeile> zeilen = info_;
+  zeilen.at(druckZeile).wertRechts = formatDate(clock_.now(), druckZeitMuster);
+  InfoBlock(drucker, infoY, zeilen);
+}
+
+void PRNO::diagrammSeite(Seitenrahmen& rahmen) const {
+  Drucker& drucker = rahmen.drucker();
+  rahmen.SeiteKopf();
+  infoBlock(drucker);
+  blockDrucken(drucker, blockEinzug, diagrammBlockX, diagrammX_);
+  blockDrucken(drucker, blockEinzug, diagrammBlockY, diagrammY_);
+  xyDiagramm(drucker);
+  rahmen.SeiteFuss();
+}
+
+void PRNO::xyDiagramm(Drucker& drucker) const {
+  PositionsDatei datei = datei_;
+  rahmenVerwerfen(datei);
+  XYDiagramm diagramm(datei, punkte_, masssystem_);
+  diagramm.bereicheErmitteln();
+  PageSurface flaeche(drucker, diagrammRechteck, diagrammSchrift);
+  XYBeschriftung beschriftung;
+  beschriftung.X = "X [" + std::string(einheit()) + "]";
+  beschriftung.Y = "Y [" + std::string(einheit()) + "]";
+  diagramm.zeichnen(flaeche, beschriftung);
+}
+
+}  // namespace korvin
