@@ -57,5 +57,25 @@ inline constexpr Einstellung CheckXTabelle{"DruckInfo_O", "CheckXTabelle", "0"};
 inline constexpr Einstellung CheckYTabelle{"DruckInfo_O", "CheckYTabelle", "0"};
 }  // namespace FormPosition
 
+/// The settings dialog of position measuring.
+namespace FormOptionsO {
+inline constexpr Einstellung FirmaName{"KorInfo", "FirmaName", ""};
+inline constexpr Einstellung PfadMessFile{"KorInfo", "PfadMessFile", ""};
+inline constexpr Einstellung PortNr{"KorInfo", "PortNr", "1"};
+inline constexpr Einstellung BaudRate{"KorInfo", "BaudRate", "1"};
+inline constexpr Einstellung NKStellen{"KorInfo", "NKStellen", "1"};
+inline constexpr Einstellung AsciiDatei{"KorInfo", "AsciiDatei", "0"};
+inline constexpr Einstellung Bezeichnung{"MessInfo_O", "Bezeichnung", "?"};
+inline constexpr Einstellung Bediener{"MessInfo_O", "Bediener", "?"};
+inline constexpr Einstellung Kommentar{"MessInfo_O", "Kommentar", "?"};
+inline constexpr Einstellung Filter{"MessInfo_O", "Filter", "2"};
+inline constexpr Einstellung Montage{"MessInfo_O", "Montage", "0"};
+/// The value that the window reads as `SFak`, under another default.
+inline constexpr Einstellung SFak{"MessInfo_O", "SFAK", "0"};
+inline constexpr Einstellung CheckXYDiagramm{"DruckInfo_O", "CheckXYDiagramm", "0"};
+inline constexpr Einstellung CheckXTabelle{"DruckInfo_O", "CheckXTabelle", "0"};
+inline constexpr Einstellung CheckYTabelle{"DruckInfo_O", "CheckYTabelle", "0"};
+}  // namespace FormOptionsO
+
 }  // namespace einstellung
 }  // namespace korvin
