@@ -8,7 +8,7 @@ build_packages=(
 run_packages=(
   fonts-liberation fonts-noto-cjk qt6-translations-l10n libqt6svg6 libqt6serialport6 qt6-qpa-plugins
 )
-test_packages=(clang-format clang-tidy)
+test_packages=(clang-format clang-tidy poppler-utils)
 
 say() { printf '%s\n' "$*" >&2; }
 

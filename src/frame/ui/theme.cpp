@@ -1,7 +1,6 @@
 #include "frame/ui/theme.h"
 
 #include <QApplication>
-#include <QFont>
 #include <QPalette>
 #include <algorithm>
 
@@ -91,6 +90,7 @@ double screenScale(double skalaX, double skalaY) {
 
 void applyTheme(Appearance appearance, double scale, int language) {
   QFont font(fontFamilies(language));
+  font.setStyleHint(familyHint(language));
   font.setPixelSize(qRound(plainTextPixels * scale));
   if (qApp->property(styleIsOwn).isNull()) {
     QApplication::setStyle(new KorvinStyle);
@@ -135,6 +135,10 @@ QStringList fontFamilies(int language) {
   const QString signs =
       language == languageChinese ? QStringLiteral("Noto Sans CJK SC") : QStringLiteral("Noto Sans CJK JP");
   return {QStringLiteral("Liberation Sans"), signs};
+}
+
+QFont::StyleHint familyHint(int language) {
+  return language == languageChinese ? QFont::SansSerif : QFont::AnyStyle;
 }
 
 QFont themeFont(double factor, bool bold) {

@@ -1,9 +1,8 @@
 #pragma once
 
 #include <QColor>
+#include <QFont>
 #include <QStringList>
-
-class QFont;
 
 namespace korvin {
 
@@ -37,6 +36,10 @@ QColor themeColour(ThemeColour colour);
 
 /// Latin family first: figures then come from it everywhere, also in the text of a PDF.
 QStringList fontFamilies(int language);
+
+/// To be set in each font that has these families. Qt keeps the further families of the first font of a kind
+/// that it meets, for all later ones of that kind; a hint of its own makes each language's font another kind.
+QFont::StyleHint familyHint(int language);
 
 /// The program's font at `factor` times the size of plain text.
 QFont themeFont(double factor, bool bold = false);

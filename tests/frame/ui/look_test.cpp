@@ -2,11 +2,13 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QGlyphRun>
 #include <QImage>
 #include <QKeyEvent>
 #include <QLibraryInfo>
 #include <QMenu>
 #include <QTest>
+#include <QTextLayout>
 #include <QToolButton>
 #include <QTranslator>
 
@@ -100,6 +102,19 @@ TEST(ThemeTest, TheLatinFamilyIsFirstAndTheSignsFollowTheLanguage) {
             QStringList({QStringLiteral("Liberation Sans"), QStringLiteral("Noto Sans CJK SC")}));
   EXPECT_EQ(fontFamilies(7),
             QStringList({QStringLiteral("Liberation Sans"), QStringLiteral("Noto Sans CJK JP")}));
+}
+
+TEST(ThemeTest, JapaneseAfterChineseHasItsOwnSigns) {
+  for (const auto& [language, family] :
+       {std::pair(6, "Noto Sans CJK SC"), std::pair(7, "Noto Sans CJK JP")}) {
+    applyTheme(Appearance::light, 0.9, language);
+    QTextLayout layout(QStringLiteral("測"), QApplication::font());
+    layout.beginLayout();
+    layout.createLine();
+    layout.endLayout();
+    EXPECT_EQ(layout.glyphRuns().at(0).rawFont().familyName(), QLatin1String(family));
+  }
+  applyTheme(Appearance::light, 0.9, 0);
 }
 
 class KeyToolBarTest : public ::testing::Test {
