@@ -35,11 +35,13 @@ bool XYDiagramm::bereicheErmitteln() {
   return neuX || neuY;
 }
 
+XYRahmen XYDiagramm::rahmen() const {
+  return {bereichAnpassen(datei_.X.Bereich, masssystem_), bereichAnpassen(datei_.Y.Bereich, masssystem_),
+          static_cast<bool>(datei_.Info.Gitter)};
+}
+
 void XYDiagramm::rahmenZeichnen(DrawingSurface& surface, const XYBeschriftung& beschriftung) const {
-  const XYRahmen rahmen{bereichAnpassen(datei_.X.Bereich, masssystem_),
-                        bereichAnpassen(datei_.Y.Bereich, masssystem_),
-                        static_cast<bool>(datei_.Info.Gitter)};
-  xyRahmenZeichnen(surface, rahmen, beschriftung);
+  xyRahmenZeichnen(surface, rahmen(), beschriftung);
 }
 
 void XYDiagramm::punkteZeichnen(DrawingSurface& surface, int von, int bis) const {

@@ -57,6 +57,9 @@ class XYDiagramm {
   /// The whole picture: frame, points and mark. Ranges are taken as they stand.
   void zeichnen(DrawingSurface& surface, const XYBeschriftung& beschriftung = {}) const;
 
+  /// Ranges and grid as they stand; for the labels of paper, too.
+  XYRahmen rahmen() const;
+
   /// Place of point `nummer` in the diagram, less the offsets, whether inside the ranges or not. Nothing
   /// outside 1 to `AnzahlMP` and for a point without a value.
   std::optional<DataPoint> ort(int nummer) const;

@@ -1,8 +1,11 @@
 #include "position/xy_frame.h"
 
 #include <cmath>
+#include <cstddef>
+#include <string_view>
 
 #include "frame/number_format.h"
+#include "frame/zahl_text.h"
 #include "position/xy_labels.h"
 
 namespace korvin {
@@ -36,18 +39,30 @@ void achsenZeichnen(DrawingSurface& surface, double Rx, double Ry) {
   }
 }
 
-/// Whole digits and as many decimals as tell `schritt` exactly.
-std::string musterFuer(double schritt) {
+/// Whole digits and as many decimals as tell `schritt` exactly, but not fewer than `mindestens`.
+std::string musterFuer(double schritt, int mindestens) {
   constexpr int HoechsteStellen = 9;
-  std::string muster = "0";
-  double rest = schritt;
-  for (int stellen = 1; stellen <= HoechsteStellen; ++stellen) {
-    if (std::fabs(rest - std::round(rest)) < 1e-6) break;
-    rest *= 10;
-    if (stellen == 1) muster += '.';
-    muster += '0';
+  int stellen = 0;
+  for (double rest = schritt; stellen < HoechsteStellen; rest *= 10, ++stellen) {
+    if (stellen >= mindestens && std::fabs(rest - std::round(rest)) < 1e-6) break;
   }
+  std::string muster = "0";
+  if (stellen > 0) muster.append(1, '.').append(static_cast<std::size_t>(stellen), '0');
   return muster;
+}
+
+/// Where the number of a range's label begins and where its unit does.
+struct BereichsText {
+  explicit BereichsText(std::string_view text)
+      : zahl(text.find_first_of("0123456789")), einheit(text.find_first_not_of("0123456789.", zahl)) {}
+  std::size_t zahl;
+  std::size_t einheit;
+};
+
+/// The half range in the unit of its label.
+double bereichsZahl(const DiagrammBereich& bereich) {
+  const BereichsText stellen(bereich.text);
+  return zahlAusText(bereich.text.substr(stellen.zahl, stellen.einheit - stellen.zahl));
 }
 
 }  // namespace
@@ -62,9 +77,18 @@ double xyTeilstrich(double bereich, int i) {
   return bereich * i / LinienJeSeite;
 }
 
-std::string xyTeilungsText(const DiagrammBereich& bereich, int i, const std::string& muster) {
-  const std::string text =
-      formatNumber(xyTeilstrich(bereich.bereich, i), muster.empty() ? musterFuer(bereich.schritt) : muster);
+std::string xyBereichsEinheit(const DiagrammBereich& bereich) {
+  return std::string(bereich.text.substr(BereichsText(bereich.text).einheit));
+}
+
+XYBeschriftung xyPapierBeschriftung(const DiagrammBereich& X, const DiagrammBereich& Y) {
+  return {"X [" + xyBereichsEinheit(X) + "]", "Y [" + xyBereichsEinheit(Y) + "]", true};
+}
+
+std::string xyTeilungsText(const DiagrammBereich& bereich, int i, bool inBereichsEinheit) {
+  const double bis = inBereichsEinheit ? bereichsZahl(bereich) : bereich.bereich;
+  const std::string muster = musterFuer(bis / LinienJeSeite, inBereichsEinheit ? 1 : 0);
+  const std::string text = formatNumber(xyTeilstrich(bis, i), muster);
   return i > 0 ? "+" + text : text;
 }
 

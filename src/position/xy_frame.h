@@ -13,12 +13,20 @@ inline constexpr Farbe FarbeGitter = 0xC0C0C0;
 inline constexpr Farbe FarbeAchsen = 0x808080;
 inline constexpr Farbe FarbeBeschriftung = 0x303030;
 
-/// How the frame is labelled where screen and paper differ.
+/// How the frame is labelled. As it stands it is the screen's way; paper's is `xyPapierBeschriftung`.
 struct XYBeschriftung {
-  std::string X = "X";  ///< name of the axis, before the label of its range; on paper with the unit, "X [mm]"
+  std::string X = "X";  ///< name of the axis, before the label of its range
   std::string Y = "Y";
-  std::string teilung;  ///< pattern of the tick values ("0.0"); empty: as many decimals as the step needs
+  /// Tick values are in the unit of the range's label, the um of "±50um", with one decimal at least; else in
+  /// that of the data.
+  bool inBereichsEinheit = false;
 };
+
+/// The unit of a range's label: "um", "mm", "mil" or "in".
+std::string xyBereichsEinheit(const DiagrammBereich& bereich);
+
+/// The labels of paper: axes named with the unit of their tick values, "X [um]".
+XYBeschriftung xyPapierBeschriftung(const DiagrammBereich& X, const DiagrammBereich& Y);
 
 /// The frame of the XY diagram: half ranges of the axes, which also tell tick steps and range labels.
 struct XYRahmen {
@@ -33,9 +41,9 @@ DataWindow xyFenster(double Rx, double Ry);
 /// Value of tick `i` (−5 to 5, ±5 being the ends of the range); `i` × a fifth of the half range.
 double xyTeilstrich(double bereich, int i);
 
-/// Text of tick `i`: its value with "+" before positive ones, by `muster` or, if that is empty, with as many
-/// decimals as the step needs.
-std::string xyTeilungsText(const DiagrammBereich& bereich, int i, const std::string& muster = {});
+/// Text of tick `i`: its value with "+" before positive ones and as many decimals as the step needs, in the
+/// unit of the data; or in the unit of the range's label, then with one decimal at least.
+std::string xyTeilungsText(const DiagrammBereich& bereich, int i, bool inBereichsEinheit = false);
 
 /// Clears the picture, sets its window and draws grid, axes and labels. Tick values stand left of and below
 /// the square, the labels of the ranges under them. They never overlap: where the picture is small for its

@@ -25,6 +25,7 @@ DataWindow boxOf(DataPoint at, Anchor anchor, DataSize size) {
   return {left, bottom + size.height, left + size.width, bottom};
 }
 
+/// True if two labels of a row stand `clearance` apart, or in different rows.
 bool apart(const DataWindow& a, const DataWindow& b, double clearance) {
   return a.right + clearance <= b.left || b.right + clearance <= a.left || a.top <= b.bottom ||
          b.top <= a.bottom;
@@ -70,7 +71,7 @@ class Setter {
     const DataWindow box = boxOf(at, anchor, size(text));
     if (!inside(box, window_)) return;
     for (const XYText& other : set_)
-      if (!apart(box, other.box, clearance_)) return;
+      if (!apart(box, other.box, clearance_ / 2)) return;
     const bool reachesIn = box.right > -frame_.X.bereich && box.top > -frame_.Y.bereich;
     set_.push_back({text, at, anchor, look_, box, reachesIn});
   }
@@ -123,7 +124,7 @@ class Setter {
   }
 
   std::string tick(const DiagrammBereich& axis, int i) const {
-    return xyTeilungsText(axis, i, words_.teilung);
+    return xyTeilungsText(axis, i, words_.inBereichsEinheit);
   }
 
   /// Room that every tick label of the axis keeps within.
