@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "frame/dictionary.h"
@@ -18,5 +19,32 @@ std::string dateiGrund(Dictionary& dictionary, const FileError& error, bool schr
 
 /// The message of a failed save: what happened, to which file, why, and what stands on the disk now.
 Meldung speichernGescheitert(Dictionary& dictionary, const std::string& operation, const SaveResult& result);
+
+/// Shows what the file operations of a kind ask and tell. The ports outlive it.
+class Dateimelder {
+ public:
+  Dateimelder(MessagePort& messages, Meldung& meldung, Dictionary& dictionary)
+      : messages_(messages), meldung_(meldung), dictionary_(dictionary) {}
+
+  /// The question whether a file of another length is to be loaded all the same. True after Yes.
+  bool andereLaengeLaden(std::int16_t messart);
+
+  /// A failed operation: its name and `grund` as the title, and a beep. False, for its caller to hand on.
+  bool gescheitert(const std::string& operation, const std::string& grund, const std::string& text);
+
+  /// True if a record can hold the path. One that it can't is refused with a message: cut, it would name
+  /// another file.
+  bool pfadPasst(const std::string& operation, const std::string& name);
+
+  /// True if all was saved; else what happened is told.
+  bool gespeichert(const std::string& operation, const SaveResult& result);
+
+ private:
+  bool zeigen(Meldung meldung);
+
+  MessagePort& messages_;
+  Meldung& meldung_;
+  Dictionary& dictionary_;
+};
 
 }  // namespace korvin

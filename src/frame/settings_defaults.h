@@ -77,5 +77,39 @@ inline constexpr Einstellung CheckXTabelle{"DruckInfo_O", "CheckXTabelle", "0"};
 inline constexpr Einstellung CheckYTabelle{"DruckInfo_O", "CheckYTabelle", "0"};
 }  // namespace FormOptionsO
 
+namespace FormGeradheit {
+inline constexpr Einstellung FirmaName{"KorInfo", "FirmaName", ""};
+inline constexpr Einstellung AsciiDatei{"KorInfo", "AsciiDatei", "0"};
+inline constexpr Einstellung NKStellen{"KorInfo", "NKStellen", "3"};
+inline constexpr Einstellung PfadMessFile{"KorInfo", "PfadMessFile", ""};
+inline constexpr Einstellung Bezeichnung{"MessInfo_G", "Bezeichnung", "?"};
+inline constexpr Einstellung Bediener{"MessInfo_G", "Bediener", "?"};
+inline constexpr Einstellung Kommentar{"MessInfo_G", "Kommentar", "?"};
+inline constexpr Einstellung AnzMPs{"MessInfo_G", "AnzMPs", "6"};
+inline constexpr Einstellung Distanz{"MessInfo_G", "Distanz", "2500.0"};
+inline constexpr Einstellung SFak{"MessInfo_G", "SFak", "1"};
+inline constexpr Einstellung Filter{"MessInfo_G", "Filter", "2"};
+inline constexpr Einstellung Montage{"MessInfo_G", "Montage", "0"};
+inline constexpr Einstellung AutoAdapt{"MessInfo_G", "AutoAdapt", "0"};
+inline constexpr Einstellung Beta5{"MessInfo_G", "Beta5", "-1"};
+inline constexpr Einstellung Beta1{"MessInfo_G", "Beta1", "0"};
+inline constexpr Einstellung MessZeitMax{"MessInfo_G", "MessZeitMax", "12"};
+inline constexpr Einstellung MessZeitMin{"MessInfo_G", "MessZeitMin", "10"};
+inline constexpr Einstellung X_Genauigkeit{"MessInfo_G", "X_Genauigkeit", "0.01"};
+inline constexpr Einstellung Y_Genauigkeit{"MessInfo_G", "Y_Genauigkeit", "0.01"};
+inline constexpr Einstellung XGesamt{"Toleranz_G", "XGesamt", ""};
+inline constexpr Einstellung XWertPro{"Toleranz_G", "XWertPro", ""};
+inline constexpr Einstellung XProEinheit{"Toleranz_G", "XProEinheit", ""};
+inline constexpr Einstellung YGesamt{"Toleranz_G", "YGesamt", ""};
+inline constexpr Einstellung YWertPro{"Toleranz_G", "YWertPro", ""};
+inline constexpr Einstellung YProEinheit{"Toleranz_G", "YProEinheit", ""};
+/// One for both axes.
+inline constexpr Einstellung ToleranzBezug{"Toleranz_G", "ToleranzBezug", "1"};
+inline constexpr Einstellung CheckXDiagramm{"DruckInfo_G", "CheckXDiagramm", "0"};
+inline constexpr Einstellung CheckYDiagramm{"DruckInfo_G", "CheckYDiagramm", "0"};
+inline constexpr Einstellung CheckXTabelle{"DruckInfo_G", "CheckXTabelle", "0"};
+inline constexpr Einstellung CheckYTabelle{"DruckInfo_G", "CheckYTabelle", "0"};
+}  // namespace FormGeradheit
+
 }  // namespace einstellung
 }  // namespace korvin

@@ -289,14 +289,14 @@ using GeradDatei = GeradForm<MaxPunkteG, true>;
 using GeradReihe = GeradDatei;
 
 /// The form before: half the points, 3243 bytes.
-using GeradDateiVorher = GeradForm<101, true>;
+using GeradDateiVorher = GeradForm<MaxPunkteAlt, true>;
 /// The first form: the same without `BaudRate`, 3231 bytes.
-using GeradDateiErste = GeradForm<101, false>;
+using GeradDateiErste = GeradForm<MaxPunkteAlt, false>;
 
 static_assert(recordSize<AchsenAnzeige>() == 22);
 static_assert(recordSize<AchsenErgebnis>() == 84);
 static_assert(recordSize<GeradAchse>() == 1722);
-static_assert(recordSize<GeradAchseMit<101>>() == 922);
+static_assert(recordSize<GeradAchseMit<MaxPunkteAlt>>() == 922);
 static_assert(recordSize<LinienGeometrie>() == 1636);
 static_assert(recordSize<AdaptVorgaben>() == 26);
 static_assert(recordSize<GeradDatei>() == 5643);

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstddef>
+
+#include "straightness/record.h"
+
+namespace korvin {
+
+/// Takes a series of an older form over into `bild`. What the older form does not give stays as `bild` held
+/// it: elements above the number of points, the tolerances and results of X, the display of Y. Throws
+/// `std::out_of_range` if the form counts more points than it holds.
+template <bool MitBaudRate>
+void alteFormUebernehmen(const GeradForm<MaxPunkteAlt, MitBaudRate>& alt, GeradDatei& bild) {
+  const std::size_t anzahl = alt.X.Wert.anzahl();
+  for (std::size_t i = 0; i <= anzahl; ++i) {
+    bild.X.Wert.at(i) = alt.X.Wert.at(i);
+    bild.Y.Wert.at(i) = alt.Y.Wert.at(i);
+    bild.Linie.Z.at(i) = alt.Linie.Z.at(i);
+  }
+  // Kept: a converted file has its own tolerances for Y alone. Those of X are the ones of the file handled
+  // before, and so is the display of Y.
+  static_cast<AchsenAnzeige&>(bild.X) = static_cast<const AchsenAnzeige&>(alt.X);
+  static_cast<AchsenErgebnis&>(bild.Y) = static_cast<const AchsenErgebnis&>(alt.Y);
+  bild.Info = alt.Info;
+  if constexpr (!MitBaudRate) bild.Info.BaudRate = "115200,N,8,1";
+  bild.Linie.AktMP = alt.Linie.AktMP;
+  bild.Linie.Distanz = alt.Linie.Distanz;
+  bild.Linie.AnzMPs = alt.Linie.AnzMPs;
+  bild.Linie.ZSchritt = alt.Linie.ZSchritt;
+  bild.Adapt = alt.Adapt;
+}
+
+}  // namespace korvin
