@@ -121,10 +121,11 @@ TEST_F(StraightnessLoadingTest, OlderFormsStayAwayAfterNoAndCancel) {
   imageOfBefore();
   const auto before = toBytes(image());
   for (const char* name : {"old.G", "older.G", "short.G", "long.G"}) {
+    const std::string file = folder.copyOf(std::string("reference/") + name);
     for (const MessageAnswer a : {MessageAnswer::no, MessageAnswer::cancel}) {
       messages.shown.clear();
       answer(a);
-      EXPECT_FALSE(loadReference(name));
+      EXPECT_FALSE(load(file));
       EXPECT_EQ(onlyMessage().text, "D6010") << "the question is all";
       EXPECT_EQ(toBytes(image()), before);
     }
