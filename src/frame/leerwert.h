@@ -1,15 +1,9 @@
 #pragma once
 
+// The empty value is the numeric routines' own, which build on nothing; it is handed on from here.
+#include "straightness/numeric/leerwert.h"  // IWYU pragma: export
+
 namespace korvin {
-
-/// The empty value: marks the absence of a value in every array and result. Compared by exact equality, so a
-/// value of exactly 999.0 counts as no value, also when it was truly measured.
-inline constexpr double Leerwert = 999.0;
-
-/// True if `value` is the empty value.
-constexpr bool istLeer(double value) {
-  return value == Leerwert;
-}
 
 /// The circle constant as the program has always used it; files and results rely on this rounding.
 inline constexpr double Pi = 3.141592654;
