@@ -11,7 +11,7 @@ namespace {
 
 constexpr double thinnestLine = 0.1;  // mm
 constexpr int circleCorners = 72;     // of a circle that the edge cuts
-constexpr double discStep = 0.1;      // mm between the strips that fill a disc
+constexpr double discStep = 0.05;     // mm between the strips that fill a disc
 
 /// Lengths of a line pattern in mm: drawn, then left out.
 struct Pattern {
@@ -37,7 +37,7 @@ bool narrow(double run, double room, double& begin, double& end) {
   } else {
     end = std::min(end, part);
   }
-  return begin <= end;
+  return begin < end;
 }
 
 double fraction(HorizontalAnchor anchor) {
@@ -167,7 +167,6 @@ void PageSurface::disc(DataPoint centre, double radius, Farbe colour) {
     const double high = centre.y + radiusY * (2.0 * (i + 1) / strips - 1);
     fill({centre.x - half, low}, {centre.x + half, high}, colour);
   }
-  circle(centre, radius, Stroke{colour});
 }
 
 void PageSurface::fill(DataPoint corner, DataPoint opposite, Farbe colour) {

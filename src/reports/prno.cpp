@@ -234,10 +234,8 @@ void PRNO::xyDiagramm(Drucker& drucker) const {
   XYDiagramm diagramm(datei, punkte_, masssystem_);
   diagramm.bereicheErmitteln();
   PageSurface flaeche(drucker, diagrammRechteck, diagrammSchrift);
-  XYBeschriftung beschriftung;
-  beschriftung.X = "X [" + std::string(einheit()) + "]";
-  beschriftung.Y = "Y [" + std::string(einheit()) + "]";
-  diagramm.zeichnen(flaeche, beschriftung);
+  const XYRahmen rahmen = diagramm.rahmen();
+  diagramm.zeichnen(flaeche, xyPapierBeschriftung(rahmen.X, rahmen.Y));
 }
 
 }  // namespace korvin
