@@ -1,29 +1,34 @@
 #pragma once
 
-#include <functional>
+#include <cstdint>
 #include <string>
 
-#include "frame/clock.h"
-#include "frame/dictionary.h"
-#include "frame/file_dialog.h"
-#include "frame/message_port.h"
-#include "frame/messplatz.h"
-#include "frame/profil.h"
+#include "frame/datei_befehle.h"
+#include "frame/messart.h"
 #include "position/erfassung.h"
 #include "position/formpos.h"
 #include "position/position_file.h"
-#include "position/record.h"
 
 namespace korvin {
 
-/// The dialog `FormDateiInfoO`. A port.
-class DateiInfoDialog {
+/// Position measurements, as the commands see them.
+class PositionsDaten : public Messdaten {
  public:
-  virtual ~DateiInfoDialog() = default;
+  PositionsDaten(FORMPOS& formpos, PositionsErfassung& erfassung, PositionsDateien& dateien)
+      : formpos_(formpos), erfassung_(erfassung), dateien_(dateien) {}
 
-  /// Lets the user edit `Bezeichnung`, `Bediener` and `Kommentar` of `info`. False, and nothing changed,
-  /// after Cancel.
-  virtual bool bearbeiten(PositionsInfo& info) = 0;
+  std::int16_t messart() const override { return MessartPosition; }
+  DateiKopf kopf() override { return dateiKopf(formpos_.Info()); }
+  std::uint32_t stand() const override { return static_cast<std::uint32_t>(formpos_.Info().AnzahlMP); }
+  void neu() override { erfassung_.neueMessung(); }
+  bool laden(const std::string& name) override { return dateien_.o_DateiLaden(name); }
+  void bildUebernehmen() override { erfassung_.bildUebernehmen(); }
+  bool speichern(const std::string& name) override { return dateien_.o_DateiSpeichern(name); }
+
+ private:
+  FORMPOS& formpos_;
+  PositionsErfassung& erfassung_;
+  PositionsDateien& dateien_;
 };
 
 /// What the commands of the position window work with. All outlive it.
@@ -41,36 +46,15 @@ struct BefehlUmgebung {
   PositionsDateien& dateien;
 };
 
-/// New, Open, Save, Save as and the questions of `FormPosition`: what they ask, decide and do to the record.
-/// They know no window, and are to be called outside of the cycle's ticks, but for `aenderungenBehandelt` and
-/// the two saves, which leave the points alone.
-class PositionsBefehle {
+/// The commands of `FormPosition`. The data come first among the bases: the commands hold on to them.
+class PositionsBefehle : private PositionsDaten, public DateiBefehle {
  public:
-  explicit PositionsBefehle(const BefehlUmgebung& umgebung) : u_(umgebung) {}
-
-  /// Asks whether changed data are to be saved, and does so. True if the step that would drop them may go on:
-  /// nothing was changed, they are saved, or the user gives them up. A save that fails or is given up keeps
-  /// them.
-  bool aenderungenBehandelt();
-
-  /// A new measurement with the defaults. `entschieden` runs once the user can't go back any more. True if
-  /// there is one.
-  bool M_Neu(const std::function<void()>& entschieden);
-  /// Loads a file that the user chooses; a refused one changes nothing. True if there are other data now.
-  bool M_Oeffnen(const std::function<void()>& entschieden);
-  /// Writes the file anew if the data were saved before, else as `M_SpeichernUnter`. True if the data are
-  /// saved.
-  bool M_Speichern();
-  /// Asks for name and file information, and writes the file.
-  bool M_SpeichernUnter();
-
- private:
-  bool schreiben();
-  std::string messordner();
-  /// The file's name without its folder; empty as long as the measurement has none.
-  std::string bisherigerName() const;
-
-  BefehlUmgebung u_;
+  explicit PositionsBefehle(const BefehlUmgebung& u)
+      : PositionsDaten(u.formpos, u.erfassung, u.dateien),
+        DateiBefehle({u.clock, u.messages, u.fileDialog, u.dateiInfo, u.dictionary, u.profil, u.meldung,
+                      u.system, static_cast<PositionsDaten&>(*this)}) {}
+  PositionsBefehle(const PositionsBefehle&) = delete;
+  PositionsBefehle& operator=(const PositionsBefehle&) = delete;
 };
 
 }  // namespace korvin

@@ -17,9 +17,9 @@ namespace {
 /// The user at the dialog of file information.
 class TestFileInfo : public DateiInfoDialog {
  public:
-  bool bearbeiten(PositionsInfo& info) override {
+  bool bearbeiten(const DateiKopf& kopf) override {
     ++asked;
-    if (accepted) info.Kommentar = "edited";
+    if (accepted) kopf.Kommentar = "edited";
     return accepted;
   }
   bool accepted = true;

@@ -54,7 +54,7 @@ constexpr std::array<TastenZeile, 24> Tasten = {{{"NEU", "ICON1", Kind::push, "C
 FormPosition::FormPosition(const PositionUmgebung& umgebung, QWidget* parent)
     : Messfenster(umgebung.zyklus, umgebung.MSCommKamera, umgebung.erfassung, parent),
       p_(umgebung),
-      dateiInfo_(umgebung.zyklus.dictionary, this),
+      dateiInfo_(umgebung.zyklus.dictionary, QStringLiteral("FormDateiInfoO"), this),
       befehle_({p_.zyklus.clock, p_.zyklus.messages, p_.fileDialog, dateiInfo_, p_.zyklus.dictionary,
                 p_.zyklus.profil, p_.zyklus.meldung, p_.zyklus.system, p_.formpos, p_.erfassung, p_.dateien}),
       punkte_(p_.formpos.punkte(), p_.formpos.arbeit()),

@@ -121,7 +121,7 @@ TEST_P(Words, HeadingsOfTheListFit) {
 
 TEST_P(Words, FileInformationFits) {
   show();
-  FormDateiInfoO dialog(dictionary(), info());
+  FormDateiInfo dialog(dictionary(), QStringLiteral("FormDateiInfoO"), dateiKopf(info()));
   dialog.show();
   settle();
   EXPECT_LE(dialog.width(), 1024);

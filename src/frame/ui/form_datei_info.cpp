@@ -1,4 +1,4 @@
-#include "position/ui/form_datei_info.h"
+#include "frame/ui/form_datei_info.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>
@@ -18,23 +18,24 @@ constexpr double Feldbreite = 480;
 
 }  // namespace
 
-FormDateiInfoO::FormDateiInfoO(Dictionary& dictionary, const PositionsInfo& info, QWidget* parent)
+FormDateiInfo::FormDateiInfo(Dictionary& dictionary, const QString& name, const DateiKopf& kopf,
+                             QWidget* parent)
     : QDialog(parent) {
-  setObjectName(QStringLiteral("FormDateiInfoO"));
+  setObjectName(name);
   setWindowTitle(qText(dictionary.DicText(7210)));
   auto* form = new QFormLayout;
-  const auto feld = [&](const char* name, std::int16_t text, const FesterText<Feldlaenge>& inhalt) {
+  const auto feld = [&](const char* feldname, std::int16_t text, const FesterText<Feldlaenge>& inhalt) {
     auto* entry = new TextEntry(dictionary, Feldlaenge, this);
-    entry->setObjectName(QString::fromLatin1(name));
+    entry->setObjectName(QString::fromLatin1(feldname));
     entry->setMinimumWidth(scaled(Feldbreite));
     entry->setValue(vonCp1252(inhalt.trimmed()));
     entry->setModified(false);
     form->addRow(qText(dictionary.DicText(text)) + QLatin1Char(':'), entry);
     return entry;
   };
-  bezeichnung_ = feld("Bezeichnung", 3044, info.Bezeichnung);
-  bediener_ = feld("Bediener", 3008, info.Bediener);
-  kommentar_ = feld("Kommentar", 3009, info.Kommentar);
+  bezeichnung_ = feld("Bezeichnung", 3044, kopf.Bezeichnung);
+  bediener_ = feld("Bediener", 3008, kopf.Bediener);
+  kommentar_ = feld("Kommentar", 3009, kopf.Kommentar);
 
   auto* knoepfe = new QDialogButtonBox(this);
   knoepfe->addButton(qText(dictionary.DicText(7055)), QDialogButtonBox::AcceptRole)
@@ -51,20 +52,20 @@ FormDateiInfoO::FormDateiInfoO(Dictionary& dictionary, const PositionsInfo& info
   bezeichnung_->setFocus();
 }
 
-void FormDateiInfoO::uebernehmen(PositionsInfo& info) const {
+void FormDateiInfo::uebernehmen(const DateiKopf& kopf) const {
   const auto text = [](const TextEntry& entry, FesterText<Feldlaenge>& ziel) {
     if (const auto bytes = zuCp1252(entry.value()); bytes && entry.isModified()) ziel = *bytes;
   };
-  text(*bezeichnung_, info.Bezeichnung);
-  text(*bediener_, info.Bediener);
-  text(*kommentar_, info.Kommentar);
+  text(*bezeichnung_, kopf.Bezeichnung);
+  text(*bediener_, kopf.Bediener);
+  text(*kommentar_, kopf.Kommentar);
 }
 
-bool QtDateiInfoDialog::bearbeiten(PositionsInfo& info) {
+bool QtDateiInfoDialog::bearbeiten(const DateiKopf& kopf) {
   const NormalPointerScope zeiger;
-  FormDateiInfoO dialog(dictionary_, info, parent_);
+  FormDateiInfo dialog(dictionary_, name_, kopf, parent_);
   if (dialog.exec() != QDialog::Accepted) return false;
-  dialog.uebernehmen(info);
+  dialog.uebernehmen(kopf);
   return true;
 }
 
