@@ -25,7 +25,8 @@ class CircleFit {
     D_ = Syy_ * Sxx_ - Sxy_ * Sxy_;
     // Points on an inclined line leave a trace of rounding in D, which would pass for a curvature.
     const double rounding = 1e-14 * squared(Sxx_ + Syy_);
-    if (!(D_ > rounding) || std::isinf(D_)) throw std::domain_error("no circle: all points lie on a line");
+    // Asked so that NaN throws too; where D is infinite, so is its rounding.
+    if (!(D_ > rounding)) throw std::domain_error("no circle: all points lie on a line");
   }
 
   KreisMitte run() {

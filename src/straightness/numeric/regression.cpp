@@ -49,7 +49,8 @@ AusgleichsGerade Regression(std::span<const double> x, std::span<const double> y
   if (!std::isfinite(spread)) return {};
   const double slope = (s.Sxy - s.Sx * s.Sy / s.N) / spread;
   const double intercept = s.Sy / s.N - slope * s.Sx / s.N;
-  if (!std::isfinite(slope) || !std::isfinite(intercept)) return {};
+  // Without a finite slope there is no finite intercept either.
+  if (!std::isfinite(intercept)) return {};
   return {intercept, slope, true};
 }
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "counted.h"
+#include "printing.h"
 #include "straightness/numeric/wurzel_sicher.h"
 
 namespace korvin {

@@ -4,6 +4,7 @@
 #include <stdexcept>
 #include <vector>
 
+#include "printing.h"
 #include "straightness/numeric/kennwerte.h"
 
 namespace korvin {

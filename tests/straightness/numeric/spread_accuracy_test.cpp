@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "counted.h"
+#include "printing.h"
 #include "straightness/numeric/kennwerte.h"
 
 namespace korvin {
@@ -61,18 +62,38 @@ TEST(SpreadAccuracy, ReadingsOfAHeadKeepSixDigitsOfTheirSpread) {
   }
 }
 
+// The deviation of a counted array with each operation stored before the next.
+double storedStepByStep(const std::vector<double>& values) {
+  volatile double S1 = 0;
+  volatile double S2 = 0;
+  for (std::size_t i = 1; i < values.size(); ++i) {
+    S1 = S1 + values[i];
+    volatile double square = values[i] * values[i];
+    S2 = S2 + square;
+  }
+  const double m = values[0];
+  volatile double left = m * S2;
+  volatile double right = S1 * S1;
+  volatile double radicand = (left - right) / (m * (m - 1));
+  return radicand > 0 ? std::sqrt(radicand) : 0.0;
+}
+
 TEST(SpreadAccuracy, SumsAreRoundedOneByOneWithoutFusedOperations) {
-  // 0.1·0.1 rounded is 0.010000000000000002; three such squares less the square of the sum leave a trace that
-  // a fused multiplication and addition would not.
-  const double v = 0.1;
-  const double sum = v + v + v;
-  volatile double square = v * v;
-  volatile double squares = square + square;
-  squares = squares + square;
-  volatile double left = 3 * squares;
-  volatile double right = sum * sum;
-  volatile double radicand = (left - right) / 6;
-  EXPECT_EQ(Standardabweichung(test::constant(3, v)).wert, radicand > 0 ? std::sqrt(radicand) : 0.0);
+  int differByFusing = 0;
+  for (int i = 0; i < 200; ++i) {
+    const double mean = 1 + i / 7.0;
+    const auto values = test::counted({mean, mean + 1e-5, mean - 2e-5, mean, mean + 0.3e-5});
+    EXPECT_EQ(Standardabweichung(values).wert, storedStepByStep(values)) << mean;
+    double fused = 0;
+    for (std::size_t n = 1; n < values.size(); ++n) fused = std::fma(values[n], values[n], fused);
+    volatile double plain = 0;
+    for (std::size_t n = 1; n < values.size(); ++n) {
+      volatile double square = values[n] * values[n];
+      plain = plain + square;
+    }
+    if (fused != plain) ++differByFusing;
+  }
+  EXPECT_GT(differByFusing, 50);  // or the values would tell nothing
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <initializer_list>
 #include <limits>
 #include <map>
+#include <ostream>
 #include <stdexcept>
 
 namespace korvin {
@@ -74,6 +75,10 @@ const Level OnePercent{
     {2.660, 2.648, 2.638, 2.631, 2.626, 2.621, 2.611, 2.609, 2.607, 2.605, 2.603, 2.602, 2.601, 2.599, 2.598,
      2.596, 2.592},
     {2.592, 2.588, 2.586, 2.585, 2.584, 2.583, 2.582, 2.581, 2.581}};
+
+void PrintTo(const Level& level, std::ostream* out) {
+  *out << (level.level > 1 ? "5 %" : "1 %");
+}
 
 class StudentTLevels : public testing::TestWithParam<Level> {};
 INSTANTIATE_TEST_SUITE_P(Both, StudentTLevels, testing::Values(FivePercent, OnePercent),
