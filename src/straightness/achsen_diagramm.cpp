@@ -1,0 +1,148 @@
+#include "straightness/achsen_diagramm.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+
+#include "frame/leerwert.h"
+#include "straightness/achsen_beschriftung.h"
+
+namespace korvin {
+namespace {
+
+constexpr double RandLinks = 3;  ///< margins of the picture, in fiftieths of the line or of the range
+constexpr double RandRechts = 2;
+constexpr double RandOben = 3;
+constexpr double RandUnten = 15;
+
+double erstesZ(const AchsenRahmen& rahmen) {
+  return rahmen.AnzMPs < 1 ? 0 : rahmen.z[1];
+}
+
+double letztesZ(const AchsenRahmen& rahmen) {
+  return rahmen.AnzMPs < 1 ? rahmen.Distanz : rahmen.z[static_cast<std::size_t>(rahmen.AnzMPs)];
+}
+
+void gitterZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen) {
+  const Stroke stroke{FarbeAchsenGitter};
+  const double R = rahmen.R;
+  for (int i = 0; rahmen.Gitter && i <= 10; ++i) {
+    const double hoehe = R - i * R / 5;
+    surface.line({erstesZ(rahmen), hoehe}, {letztesZ(rahmen), hoehe}, stroke);
+  }
+  for (int punkt = 1; punkt <= rahmen.AnzMPs; punkt += linienSchritt(rahmen.AnzMPs)) {
+    const double z = rahmen.z[static_cast<std::size_t>(punkt)];
+    surface.line({z, -R}, {z, R}, stroke);
+  }
+}
+
+void achsenZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen) {
+  const Stroke stroke{FarbeAchsenLinie};
+  const double ende = letztesZ(rahmen);
+  surface.line({ende, -rahmen.R}, {ende, rahmen.R}, stroke);
+  surface.line({erstesZ(rahmen), 0}, {ende, 0}, stroke);
+}
+
+void texteZeichnen(DrawingSurface& surface, const std::vector<AchsenText>& texte) {
+  for (const AchsenText& text : texte) surface.text(text.ort, text.text, text.look, text.anker);
+}
+
+void markeZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen, const AchsenMarke& marke) {
+  const double radius = letztesZ(rahmen) / 200;
+  surface.circle({marke.z, 0}, radius, {marke.farbe});
+  const TextLook look{marke.farbe};
+  const double breite = surface.textSize(marke.text, look).width;
+  // Beside the circle on the side where there is room.
+  const bool rechts = marke.z + 2 * radius + breite <= achsenFenster(rahmen).right;
+  const double ort = rechts ? marke.z + 2 * radius : marke.z - 2 * radius;
+  surface.text({ort, 0}, marke.text, look,
+               {rechts ? HorizontalAnchor::left : HorizontalAnchor::right, VerticalAnchor::bottom});
+}
+
+void linienZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen,
+                    const std::vector<AchsenZusatzlinie>& linien) {
+  for (const AchsenZusatzlinie& linie : linien) {
+    if (std::fabs(linie.hoehe) <= rahmen.R)
+      surface.line({erstesZ(rahmen), linie.hoehe}, {letztesZ(rahmen), linie.hoehe},
+                   {linie.farbe, 1, linie.art});
+  }
+}
+
+/// The short texts of the lines on one side, moved clear of each other.
+void linienTexteZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen,
+                         const std::vector<AchsenZusatzlinie>& linien, AchsenZusatzlinie::Seite seite) {
+  std::vector<const AchsenZusatzlinie*> beschriftet;
+  std::vector<double> mitten;
+  for (const AchsenZusatzlinie& linie : linien) {
+    if (linie.seite != seite || linie.text.empty() || !(std::fabs(linie.hoehe) < rahmen.R)) continue;
+    beschriftet.push_back(&linie);
+    mitten.push_back(linie.hoehe);
+  }
+  if (beschriftet.empty()) return;
+  const bool rechts = seite == AchsenZusatzlinie::Seite::rechts;
+  const double abstand = 2 * surface.lineWidth().width;
+  mitten = auseinander(mitten, surface.textSize("x", {}).height);
+  for (std::size_t i = 0; i < beschriftet.size(); ++i) {
+    const double z = rechts ? letztesZ(rahmen) + abstand : erstesZ(rahmen) + abstand;
+    surface.text({z, mitten[i]}, beschriftet[i]->text, {beschriftet[i]->farbe},
+                 {HorizontalAnchor::left, VerticalAnchor::middle});
+  }
+}
+
+bool gleicheArt(const KurvenStueck& a, const KurvenStueck& b) {
+  return a.ueberbrueckt == b.ueberbrueckt && a.ausserhalb == b.ausserhalb;
+}
+
+void kurveZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen, const AchsenKurve& kurve) {
+  const std::vector<KurvenStueck> stuecke = kurvenStuecke(kurve.werte, rahmen.R);
+  std::vector<DataPoint> zug;
+  // Pieces that look alike are drawn at one go.
+  for (std::size_t i = 0; i < stuecke.size(); ++i) {
+    const KurvenStueck& stueck = stuecke[i];
+    if (zug.empty()) zug.push_back(stueck.von);
+    zug.push_back(stueck.bis);
+    if (i + 1 < stuecke.size() && gleicheArt(stueck, stuecke[i + 1])) continue;
+    const Farbe farbe = stueck.ueberbrueckt ? kurve.farbeUeberbrueckt : kurve.farbe;
+    surface.polyline(zug, {farbe, 2, stueck.ausserhalb ? LineStyle::dotted : LineStyle::solid});
+    zug.clear();
+  }
+  const auto n = kurve.punkte && !kurve.werte.werte.empty() ? static_cast<std::size_t>(kurve.werte.werte[0]) : 0;
+  for (std::size_t i = 1; i <= n; ++i) {
+    const double wert = kurve.werte.werte[i];
+    if (!istLeer(wert) && std::fabs(wert) <= rahmen.R)
+      surface.disc({kurve.werte.z[i], wert}, 3 * surface.lineWidth().width, kurve.farbe);
+  }
+}
+
+}  // namespace
+
+DataWindow achsenFenster(const AchsenRahmen& rahmen) {
+  const double dz = rahmen.Distanz / 50;
+  const double dy = rahmen.R / 50;
+  return {-RandLinks * dz, rahmen.R + RandOben * dy, rahmen.Distanz + RandRechts * dz,
+          -rahmen.R - RandUnten * dy};
+}
+
+void achsenRahmenZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen) {
+  const DataWindow fenster = achsenFenster(rahmen);
+  surface.setWindow(fenster);
+  surface.clear(FarbeAchsenGrund);
+  gitterZeichnen(surface, rahmen);
+  achsenZeichnen(surface, rahmen);
+  texteZeichnen(surface, punktNummern(surface, rahmen));
+  texteZeichnen(surface, hoehen(surface, rahmen));
+  surface.text({fenster.left, fenster.top}, "[" + rahmen.einheit + "]", {FarbeAchsenText}, {});
+}
+
+void achsenInhaltZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen, const AchsenInhalt& inhalt) {
+  using Seite = AchsenZusatzlinie::Seite;
+  surface.setWindow(achsenFenster(rahmen));
+  for (const AchsenMarke& marke : inhalt.marken) markeZeichnen(surface, rahmen, marke);
+  linienZeichnen(surface, rahmen, inhalt.linien);
+  linienTexteZeichnen(surface, rahmen, inhalt.linien, Seite::links);
+  linienTexteZeichnen(surface, rahmen, inhalt.linien, Seite::rechts);
+  if (inhalt.cursorZ) surface.line({*inhalt.cursorZ, -rahmen.R}, {*inhalt.cursorZ, rahmen.R}, {FarbeCursor});
+  for (const AchsenKurve& kurve : inhalt.kurven) kurveZeichnen(surface, rahmen, kurve);
+}
+
+}  // namespace korvin
