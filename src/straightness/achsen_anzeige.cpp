@@ -44,8 +44,9 @@ void mittelBerechnen(AchsenAnzeigeDaten& daten, const AchsenSchalter& schalter, 
 void streuungBerechnen(AchsenAnzeigeDaten& daten, const AchsenSchalter& schalter, AchsenErgebnis& ergebnis) {
   daten.streuung = Standardabweichung(daten.ausgewertet.elements());
   ergebnis.Streuung = daten.streuung->wert;
-  daten.texte.Streuung = "±" + formatNumber(schalter.SFak, "0") + "s " +
-                         (daten.streuung->gueltig ? zahl(schalter.SFak * ergebnis.Streuung, schalter) : "?.?");
+  daten.texte.Streuung =
+      "±" + formatNumber(schalter.SFak, "0") + "s " +
+      (daten.streuung->gueltig ? zahl(schalter.SFak * ergebnis.Streuung, schalter) : "?.?");
 }
 
 void extremeBerechnen(AchsenAnzeigeDaten& daten, AchsenErgebnis& ergebnis) {
@@ -59,8 +60,8 @@ void toleranzBerechnen(AchsenAnzeigeDaten& daten, const AchsenQuelle& quelle, co
   AchsenTexte& texte = daten.texte;
   texte.ToleranzGesamt = gesamtText(ergebnis, schalter.Masssystem);
   texte.ToleranzAbschnitt = abschnittVorgabeText(ergebnis, schalter.Masssystem);
-  texte.ErgebnisAbschnitt = abschnittErgebnisText(daten.ausgewertet.elements(), quelle.linie, ergebnis, ergebnis,
-                                                  schalter.NKStellen, schalter.Masssystem);
+  texte.ErgebnisAbschnitt = abschnittErgebnisText(daten.ausgewertet.elements(), quelle.linie, ergebnis,
+                                                  ergebnis, schalter.NKStellen, schalter.Masssystem);
   texte.ErgebnisGesamt = gesamtErgebnisText(ergebnis, *daten.extreme, schalter.NKStellen);
   daten.band = toleranzband(ergebnis, *daten.extreme, schalter.Masssystem);
 }
@@ -95,8 +96,7 @@ AchsenAnzeigeDaten achseBerechnen(const AchsenQuelle& quelle, const AchsenSchalt
   AchsenAnzeigeDaten daten;
   daten.ausgewertet = ReiheAuswerten(quelle.vorgabe, quelle.reihe);
   daten.kurve = ohneOffene(daten.ausgewertet, quelle.reihe);
-  daten.bereich =
-      bereichBestimmen(anzeige, ergebnis, quelle.reihe, daten.ausgewertet, schalter.Masssystem);
+  daten.bereich = bereichBestimmen(anzeige, ergebnis, quelle.reihe, daten.ausgewertet, schalter.Masssystem);
   // The lines of the deviation lie about the mean.
   if (schalter.Mittel || schalter.Streuung) mittelBerechnen(daten, schalter, ergebnis);
   if (schalter.Streuung) streuungBerechnen(daten, schalter, ergebnis);
@@ -151,8 +151,8 @@ std::vector<AchsenMarke> referenzMarken(const AchsenQuelle& quelle) {
 
 AchsenRahmen achsenRahmen(const AchsenQuelle& quelle, const AchsenAnzeigeDaten& daten, bool Gitter) {
   const bool inch = quelle.vorgabe.Masssystem == MasssystemInch;
-  return {daten.bereich.bereich, quelle.linie.Distanz, quelle.linie.Z,
-          quelle.linie.AnzMPs,   Gitter,               inch ? "mil" : "mm"};
+  return {daten.bereich.bereich, quelle.linie.Distanz, quelle.linie.Z, quelle.linie.AnzMPs, Gitter,
+          inch ? "mil" : "mm"};
 }
 
 AchsenInhalt achsenInhalt(const AchsenQuelle& quelle, const AchsenAnzeigeDaten& daten,
@@ -161,7 +161,8 @@ AchsenInhalt achsenInhalt(const AchsenQuelle& quelle, const AchsenAnzeigeDaten& 
   inhalt.marken = referenzMarken(quelle);
   inhalt.linien = achsenZusatzlinien(daten, schalter);
   inhalt.kurven.push_back({{daten.kurve.elements(), quelle.linie.Z}});
-  if (quelle.linie.AktMP >= 1) inhalt.cursorZ = quelle.linie.Z.at(static_cast<std::size_t>(quelle.linie.AktMP));
+  if (quelle.linie.AktMP >= 1)
+    inhalt.cursorZ = quelle.linie.Z.at(static_cast<std::size_t>(quelle.linie.AktMP));
   return inhalt;
 }
 

@@ -14,15 +14,15 @@ namespace korvin {
 
 /// The lines of an axis' panel, UTF-8. A missing one is switched off.
 struct AchsenTexte {
-  std::optional<std::string> Mittel;              ///< "x 0.000", "x  ?.?"
-  std::optional<std::string> Streuung;            ///< "±2s 0.000", "±2s ?.?"
-  std::optional<std::string> Spanne;              ///< "R 0.000", "R ?.?"
-  std::optional<std::string> ToleranzGesamt;      ///< the allowed
-  std::optional<std::string> ToleranzAbschnitt;   ///< the allowed in a section
-  std::optional<std::string> ErgebnisGesamt;      ///< the measured
-  std::optional<std::string> ErgebnisAbschnitt;   ///< the measured in the worst section
-  std::string Bereich;                            ///< range of the diagram, "±20um"
-  std::string Wert;                               ///< value at the current point
+  std::optional<std::string> Mittel;             ///< "x 0.000", "x  ?.?"
+  std::optional<std::string> Streuung;           ///< "±2s 0.000", "±2s ?.?"
+  std::optional<std::string> Spanne;             ///< "R 0.000", "R ?.?"
+  std::optional<std::string> ToleranzGesamt;     ///< the allowed
+  std::optional<std::string> ToleranzAbschnitt;  ///< the allowed in a section
+  std::optional<std::string> ErgebnisGesamt;     ///< the measured
+  std::optional<std::string> ErgebnisAbschnitt;  ///< the measured in the worst section
+  std::string Bereich;                           ///< range of the diagram, "±20um"
+  std::string Wert;                              ///< value at the current point
 };
 
 /// How results are shown.
@@ -44,7 +44,7 @@ struct AchsenAnzeigeDaten {
   Auswertefeld ausgewertet;
   Auswertefeld kurve;  ///< the same with all open readings empty, in every mode and unit
   DiagrammBereich bereich{};
-  std::optional<Kennwert> mittel;      ///< where switched on
+  std::optional<Kennwert> mittel;  ///< where switched on
   std::optional<Kennwert> streuung;
   std::optional<Extremwerte> extreme;  ///< where switched on, or needed for the tolerance
   std::optional<Toleranzband> band;
@@ -65,8 +65,8 @@ AchsenAnzeigeDaten achseBerechnen(const AchsenQuelle& quelle, const AchsenSchalt
 /// The same for an axis of a series.
 AchsenAnzeigeDaten achseBerechnen(const GeradReihe& reihe, GeradAchse& achse, std::int16_t Masssystem);
 
-/// The extra lines of the diagram: mean, deviation, extremes as far as switched on, and the tolerance band held
-/// within the range.
+/// The extra lines of the diagram: mean, deviation, extremes as far as switched on, and the tolerance band
+/// held within the range.
 std::vector<AchsenZusatzlinie> achsenZusatzlinien(const AchsenAnzeigeDaten& daten,
                                                   const AchsenSchalter& schalter);
 /// The marks of the reference points: red, or grey if one of them has no reading. None but in REF.

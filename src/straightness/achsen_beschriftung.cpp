@@ -66,9 +66,8 @@ std::vector<AchsenText> punktNummern(DrawingSurface& surface, const AchsenRahmen
   const int letzter = 1 + (rahmen.AnzMPs - 1) / schritt * schritt;
 
   std::vector<AchsenText> texte;
-  const auto setzen = [&](int punkt, const std::string& text, Breite ort) {
+  const auto setzen = [&](const std::string& text, Breite ort) {
     texte.push_back({text, {(ort.links + ort.rechts) / 2, -rahmen.R}, {HorizontalAnchor::centre}, look});
-    (void)punkt;
   };
   const std::string letzterText = std::to_string(letzter) + " [MP]";
   const Breite letzterOrt =
@@ -78,10 +77,10 @@ std::vector<AchsenText> punktNummern(DrawingSurface& surface, const AchsenRahmen
     const std::string text = std::to_string(punkt);
     const Breite ort = platz(zVon(rahmen, punkt), surface.textSize(text, look).width, fenster.right);
     if (ort.links < frei || ort.rechts + luecke > letzterOrt.links) continue;
-    setzen(punkt, text, ort);
+    setzen(text, ort);
     frei = ort.rechts + luecke;
   }
-  setzen(letzter, letzterText, letzterOrt);
+  setzen(letzterText, letzterOrt);
   return texte;
 }
 
@@ -91,7 +90,10 @@ std::vector<AchsenText> hoehen(DrawingSurface& surface, const AchsenRahmen& rahm
   std::vector<AchsenText> texte;
   for (const int i : {-4, -2, 0, 2, 4}) {
     const double hoehe = i == 0 ? 0 : rahmen.R - (i + 5) * schritt;
-    texte.push_back({hoehenText(hoehe, rahmen.R), {fenster.left, hoehe}, {HorizontalAnchor::left, VerticalAnchor::middle}, {}});
+    texte.push_back({hoehenText(hoehe, rahmen.R),
+                     {fenster.left, hoehe},
+                     {HorizontalAnchor::left, VerticalAnchor::middle},
+                     {}});
   }
   const TextLook look = passend(surface, texte, -fenster.left);
   for (AchsenText& text : texte) text.look = look;
@@ -101,7 +103,8 @@ std::vector<AchsenText> hoehen(DrawingSurface& surface, const AchsenRahmen& rahm
 std::vector<double> auseinander(std::vector<double> mitten, double hoch) {
   std::vector<std::size_t> folge(mitten.size());
   std::iota(folge.begin(), folge.end(), std::size_t{0});
-  std::stable_sort(folge.begin(), folge.end(), [&](std::size_t a, std::size_t b) { return mitten[a] < mitten[b]; });
+  std::stable_sort(folge.begin(), folge.end(),
+                   [&](std::size_t a, std::size_t b) { return mitten[a] < mitten[b]; });
   // Groups of touching texts spread evenly round their common middle.
   struct Gruppe {
     double mitte;

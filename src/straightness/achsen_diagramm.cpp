@@ -106,7 +106,8 @@ void kurveZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen, const Ac
     surface.polyline(zug, {farbe, 2, stueck.ausserhalb ? LineStyle::dotted : LineStyle::solid});
     zug.clear();
   }
-  const auto n = kurve.punkte && !kurve.werte.werte.empty() ? static_cast<std::size_t>(kurve.werte.werte[0]) : 0;
+  const auto n =
+      kurve.punkte && !kurve.werte.werte.empty() ? static_cast<std::size_t>(kurve.werte.werte[0]) : 0;
   for (std::size_t i = 1; i <= n; ++i) {
     const double wert = kurve.werte.werte[i];
     if (!istLeer(wert) && std::fabs(wert) <= rahmen.R)

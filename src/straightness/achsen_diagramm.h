@@ -16,18 +16,18 @@ inline constexpr Farbe FarbeAchsenGrund = 0xFFFFFF;   ///< light, also on a dark
 inline constexpr Farbe FarbeAchsenGitter = 0xC0C0C0;  ///< grid
 inline constexpr Farbe FarbeAchsenLinie = 0x808080;   ///< zero line, end of the line, bands
 inline constexpr Farbe FarbeAchsenText = 0x404040;
-inline constexpr Farbe FarbeKurve = 0x0000FF;      ///< from value to value: red
+inline constexpr Farbe FarbeKurve = 0x0000FF;         ///< from value to value: red
 inline constexpr Farbe FarbeUeberbrueckt = 0x00FFFF;  ///< over open points: yellow
 inline constexpr Farbe FarbeCursor = 0x000000;
 
 /// What stands still while a line is measured.
 struct AchsenRahmen {
-  double R = 1;                   ///< half range, in the unit shown
-  double Distanz = 1;             ///< length of the line, mm
-  std::span<const double> z;      ///< z of the points in mm, from index 1
-  std::int16_t AnzMPs = 0;        ///< number of points
-  bool Gitter = true;             ///< horizontal grid lines; the vertical ones are always there
-  std::string einheit;            ///< "mm" or "mil"
+  double R = 1;               ///< half range, in the unit shown
+  double Distanz = 1;         ///< length of the line, mm
+  std::span<const double> z;  ///< z of the points in mm, from index 1
+  std::int16_t AnzMPs = 0;    ///< number of points
+  bool Gitter = true;         ///< horizontal grid lines; the vertical ones are always there
+  std::string einheit;        ///< "mm" or "mil"
 };
 
 /// One curve with its colours.
@@ -66,8 +66,8 @@ struct AchsenInhalt {
 };
 
 /// The diagram of an axis: z along the line to the right, deviations upward. It is handed what it shows, in
-/// the units shown (deviations mm or mil, z mm), and evaluates nothing. Drawn in two layers, each on a surface
-/// with the window `achsenFenster`.
+/// the units shown (deviations mm or mil, z mm), and evaluates nothing. Drawn in two layers, each on a
+/// surface with the window `achsenFenster`.
 
 /// Data coordinates of the picture's corners.
 DataWindow achsenFenster(const AchsenRahmen& rahmen);

@@ -20,7 +20,8 @@ DataPoint gehalten(DataPoint punkt, double R) {
 }
 
 /// The line from `von` to `bis` in pieces that lie wholly inside or wholly beyond one edge.
-void stueckeln(std::vector<KurvenStueck>& stuecke, DataPoint von, DataPoint bis, double R, bool ueberbrueckt) {
+void stueckeln(std::vector<KurvenStueck>& stuecke, DataPoint von, DataPoint bis, double R,
+               bool ueberbrueckt) {
   std::array<DataPoint, 4> ecken{von};
   std::size_t n = 1;
   const bool steigt = bis.y > von.y;

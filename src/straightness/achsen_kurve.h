@@ -23,9 +23,9 @@ struct KurvenStueck {
   friend bool operator==(const KurvenStueck&, const KurvenStueck&) = default;
 };
 
-/// The pieces from each value to the next one, held within ±`R`. A piece that crosses the edge is split there:
-/// what lies inside is drawn as it is, what lies beyond runs along the edge. Points without a value are
-/// bridged. Fewer than two values have no piece.
+/// The pieces from each value to the next one, held within ±`R`. A piece that crosses the edge is split
+/// there: what lies inside is drawn as it is, what lies beyond runs along the edge. Points without a value
+/// are bridged. Fewer than two values have no piece.
 std::vector<KurvenStueck> kurvenStuecke(const KurvenWerte& kurve, double R);
 
 }  // namespace korvin

@@ -38,8 +38,8 @@ struct Toleranzband {
   double oben = 0;
 };
 
-/// Where the band lies over these values, not yet held within any diagram. None without a tolerance or without
-/// values.
+/// Where the band lies over these values, not yet held within any diagram. None without a tolerance or
+/// without values.
 std::optional<Toleranzband> toleranzband(const AchsenToleranz& toleranz, const Extremwerte& extreme,
                                          std::int16_t Masssystem);
 
