@@ -1,33 +1,24 @@
 #include "position/position_file.h"
 
-#include <algorithm>
-#include <array>
-#include <cmath>
-#include <span>
 #include <vector>
 
 #include "frame/cp1252.h"
-#include "frame/file_group_reader.h"
 #include "frame/file_message.h"
 #include "frame/safe_save.h"
 #include "frame/settings_defaults.h"
 #include "frame/zahl_text.h"
+#include "position/position_reader.h"
 #include "position/text_copy.h"
 
 namespace korvin {
 namespace {
 
-constexpr std::size_t kopfLaenge = recordSize<PositionsDatei>();
 constexpr std::size_t tripelLaenge = 3 * sizeof(double);
 constexpr std::int16_t titelPosition = 5502;
 
 std::string rechtsGetrimmt(std::string name) {
   name.erase(name.find_last_not_of(' ') + 1);
   return name;
-}
-
-std::string punktName(const std::string& name) {
-  return name + "1";
 }
 
 /// The point file: triples X, Y, T from index 0, whose three numbers are the count.
@@ -46,41 +37,22 @@ std::vector<std::byte> punkteAlsBytes(const PointStore& punkte, std::size_t anza
   return bytes;
 }
 
-/// Reads the point file into `punkte`; at most 29999 points. False if one of their numbers is none.
-bool punkteAusBytes(std::span<const std::byte> bytes, PointStore& punkte) {
-  const std::size_t anzahl = bytes.size() / tripelLaenge - 1;
-  auto& x = punkte.X().elements();
-  auto& y = punkte.Y().elements();
-  auto& t = punkte.T().elements();
-  bool endlich = true;
-  const std::byte* quelle = bytes.data() + tripelLaenge;
-  for (std::size_t i = 1; i <= anzahl; ++i, quelle += tripelLaenge) {
-    FieldCodec<double>::load(x[i], quelle);
-    FieldCodec<double>::load(y[i], quelle + sizeof(double));
-    FieldCodec<double>::load(t[i], quelle + 2 * sizeof(double));
-    endlich &= std::isfinite(x[i]) && std::isfinite(y[i]) && std::isfinite(t[i]);
+/// Why a measurement was refused, in words of the present language; empty where the message says it all.
+std::string leseGrund(Dictionary& dictionary, const PositionReadError& fehler) {
+  switch (fehler.kind) {
+    case PositionReadError::Kind::headUnreadable:
+    case PositionReadError::Kind::pointsUnreadable:
+      return dateiGrund(dictionary, fehler.file, false);
+    case PositionReadError::Kind::tooManyPoints:
+      return dictionary.DicText(7331);
+    case PositionReadError::Kind::notANumber:
+      return dictionary.DicText(7330);
+    case PositionReadError::Kind::none:
+    case PositionReadError::Kind::pointsMissing:
+    case PositionReadError::Kind::otherCount:
+      break;
   }
-  // The count of the head was checked against the length; those of the first triple are not asked.
-  for (PunktFeld* feld : {&punkte.X(), &punkte.Y(), &punkte.T()}) {
-    feld->setAnzahl(anzahl);
-    feld->clearFrom(anzahl + 1);
-  }
-  return endlich;
-}
-
-bool endlich(const AchsenInfo& a) {
-  return std::isfinite(a.Summe) && std::isfinite(a.Quadratsumme) && std::isfinite(a.Offset) &&
-         std::isfinite(a.Bereich) && std::isfinite(a.Maximum) && std::isfinite(a.Minimum);
-}
-
-bool endlich(const PositionsDatei& datei) {
-  return endlich(datei.X) && endlich(datei.Y) && std::isfinite(datei.Info.StartZeit) &&
-         std::isfinite(datei.Info.StopZeit) && std::isfinite(datei.Info.Intervall);
-}
-
-/// True if a point file of `laenge` bytes holds exactly the points that the head counts.
-bool zahlPasst(std::uint64_t laenge, std::int16_t anzahl) {
-  return anzahl >= 0 && laenge == (static_cast<std::uint64_t>(anzahl) + 1) * tripelLaenge;
+  return {};
 }
 
 }  // namespace
@@ -89,29 +61,16 @@ bool zahlPasst(std::uint64_t laenge, std::int16_t anzahl) {
 
 bool PositionsDateien::o_DateiLaden(const std::string& rohName) {
   const std::string name = rechtsGetrimmt(rohName);
-  FileGroupReader leser(u_.files, {name, punktName(name)});
-  if (leser.error(0))
-    return ladenGescheitert(name, leser.error(0).number, dateiGrund(u_.dictionary, leser.error(0), false));
-
-  const bool andereLaenge = leser.size(0) != kopfLaenge;
+  PositionReader leser(u_.files, name);
+  if (leser.headError())
+    return ladenGescheitert(name, leser.headError().number,
+                            dateiGrund(u_.dictionary, leser.headError(), false));
+  const bool andereLaenge = leser.otherLength();
   if (andereLaenge && !frageLaenge()) return ladenGescheitert(name, 0, {});
-  std::array<std::byte, kopfLaenge> kopf = toBytes(PositionsDatei{});
-  const std::size_t vorhanden = std::min<std::uint64_t>(leser.size(0), kopfLaenge);
-  if (const FileError fehler = leser.read(0, std::span(kopf).first(vorhanden))) {
-    return ladenGescheitert(name, fehler.number, dateiGrund(u_.dictionary, fehler, false));
-  }
-  auto datei = fromBytes<PositionsDatei>(kopf);
 
-  if (leser.error(1)) return ladenGescheitert(name, leser.error(1).number, {});
-  if (datei.Info.AnzahlMP > MaxPunkteO) return ladenGescheitert(name, 0, u_.dictionary.DicText(7331));
-  if (!zahlPasst(leser.size(1), datei.Info.AnzahlMP)) return ladenGescheitert(name, 0, {});
-  bytes_.resize(leser.size(1));
-  if (const FileError fehler = leser.read(1, bytes_)) {
-    return ladenGescheitert(name, fehler.number, dateiGrund(u_.dictionary, fehler, false));
-  }
-  if (!punkteAusBytes(bytes_, gelesen_) || !endlich(datei))
-    return ladenGescheitert(name, 0, u_.dictionary.DicText(7330));
-
+  PositionsDatei datei;
+  if (const PositionReadError fehler = leser.read(datei, gelesen_, bytes_))
+    return ladenGescheitert(name, fehler.file.number, leseGrund(u_.dictionary, fehler));
   datei.Info.Geaendert = andereLaenge;
   u_.formpos.bild() = datei;
   u_.formpos.punkte().swap(gelesen_);
@@ -126,8 +85,8 @@ bool PositionsDateien::frageLaenge() {
 
 bool PositionsDateien::ladenGescheitert(const std::string& name, int nummer, const std::string& grund) {
   u_.meldung.MsgTitel = dateiTitel(u_.dictionary, "o_DateiLaden", std::to_string(nummer));
-  u_.meldung.MsgText = u_.dictionary.DicText(1101) + NeueZeile + "File: " + punktName(name) + NeueZeile +
-                       u_.dictionary.DicText(1107);
+  u_.meldung.MsgText = u_.dictionary.DicText(1101) + NeueZeile + "File: " + PositionReader::pointName(name) +
+                       NeueZeile + u_.dictionary.DicText(1107);
   if (!grund.empty()) u_.meldung.MsgText += NeueZeile + grund;
   u_.messages.beep();
   u_.messages.show(u_.meldung, MessageIcon::warning, MessageButtons::ok);
@@ -162,9 +121,9 @@ bool PositionsDateien::o_DateiSpeichern(const std::string& rohName) {
   const PositionsDatei& bild = u_.formpos.bild();
   const auto kopf = toBytes(bild);
   const auto punkte = punkteAlsBytes(u_.formpos.punkte(), u_.formpos.punkte().X().anzahl());
-  const SaveResult result =
-      saveTogether(u_.files, {{name, [&kopf](SaveSink& sink) { sink.write(kopf); }},
-                              {punktName(name), [&punkte](SaveSink& sink) { sink.write(punkte); }}});
+  const SaveResult result = saveTogether(
+      u_.files, {{name, [&kopf](SaveSink& sink) { sink.write(kopf); }},
+                 {PositionReader::pointName(name), [&punkte](SaveSink& sink) { sink.write(punkte); }}});
   if (!gespeichert("o_DateiSpeichern", result)) return false;
   // The present setting decides about the text copy; the record's own flag is only kept.
   if (!flagAusText(u_.profil.wert(einstellung::FormPosition::AsciiDatei))) return true;
