@@ -7,8 +7,8 @@
 #include "frame/datei_dialog.h"
 #include "frame/datum_text.h"
 #include "frame/messart.h"
+#include "frame/messordner.h"
 #include "frame/pfade.h"
-#include "frame/settings_defaults.h"
 
 namespace korvin {
 namespace {
@@ -45,8 +45,8 @@ bool DateiBefehle::M_Oeffnen(const std::function<void()>& entschieden) {
   if (!aenderungenBehandelt()) return false;
   const std::uint32_t behandelt = u_.daten.stand();
   const std::string maske(MessartEndung(u_.daten.messart()));
-  const std::string name = dateiErfragen(u_.fileDialog, messordner(), filterText() + maske,
-                                         u_.dictionary.DicText(TextOeffnen), true);
+  const std::string name = dateiErfragen(u_.fileDialog, MessOrdner(u_.profil, u_.system),
+                                         filterText() + maske, u_.dictionary.DicText(TextOeffnen), true);
   if (name.empty()) return false;
   // A run goes on behind the dialog: readings that came meanwhile are asked for too.
   if (u_.daten.stand() != behandelt && !aenderungenBehandelt()) return false;
@@ -63,7 +63,7 @@ bool DateiBefehle::M_Speichern() {
 }
 
 bool DateiBefehle::M_SpeichernUnter() {
-  const std::string name = dateiErfragen(u_.fileDialog, messordner(), filterText(),
+  const std::string name = dateiErfragen(u_.fileDialog, MessOrdner(u_.profil, u_.system), filterText(),
                                          u_.dictionary.DicText(TextSpeichernUnter), false, bisherigerName());
   if (name.empty()) return false;
   const DateiKopf kopf = u_.daten.kopf();
@@ -102,11 +102,6 @@ std::string DateiBefehle::filterText() {
 std::string DateiBefehle::bisherigerName() const {
   const std::string name = pfadTeilen(vonCp1252(u_.daten.kopf().DateiName.trimmed())).name;
   return name == MessartEndung(u_.daten.messart()) ? std::string() : name;
-}
-
-std::string DateiBefehle::messordner() {
-  return MessOrdner(u_.profil.wert(einstellung::Hauptfenster::PfadMessFile),
-                    pfadTeilen(u_.system.DbPfad).ordner);
 }
 
 }  // namespace korvin

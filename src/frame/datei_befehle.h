@@ -86,7 +86,6 @@ class DateiBefehle {
 
  private:
   bool schreiben();
-  std::string messordner();
   /// Pattern of the kind's files with its word, as the file dialogs show it.
   std::string filterText();
   /// The file's name without its folder; empty as long as the measurement has none.

@@ -5,8 +5,8 @@
 #include "frame/cp1252.h"
 #include "frame/datum_text.h"
 #include "frame/messart.h"
+#include "frame/messordner.h"
 #include "frame/number_format.h"
-#include "frame/pfade.h"
 #include "frame/werte.h"
 #include "frame/zahl_text.h"
 #include "link/kor_com.h"
@@ -43,10 +43,6 @@ void anzeigeBehalten(AchsenInfo& achse, const AchsenInfo& vorher) {
   achse.NumZoom = vorher.NumZoom;
 }
 
-std::string messordner(Profil& profil, const Systemwerte& system) {
-  return MessOrdner(profil.wert(vorgaben::PfadMessFile), pfadTeilen(system.DbPfad).ordner);
-}
-
 }  // namespace
 
 // ---- The working record ----
@@ -81,7 +77,7 @@ void PositionsErfassung::neueMessung() {
   info.CheckXYDiagramm = flag(profil, vorgaben::CheckXYDiagramm);
   info.CheckXTabelle = flag(profil, vorgaben::CheckXTabelle);
   info.CheckYTabelle = flag(profil, vorgaben::CheckYTabelle);
-  info.DateiName = zuCp1252(messordner(profil, u_.system) + "*.O").value_or("*.O");
+  info.DateiName = zuCp1252(MessOrdner(profil, u_.system) + "*.O").value_or("*.O");
   info.Gitter = true;
   info.RestMP = -1;
   info.Datum = LeerDatum;

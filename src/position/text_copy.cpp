@@ -2,70 +2,45 @@
 
 #include <algorithm>
 #include <string_view>
-#include <utility>
 
-#include "frame/cp1252.h"
 #include "frame/date_format.h"
 #include "frame/filterzeit.h"
 #include "frame/leerwert.h"
-#include "frame/message_port.h"
 #include "frame/number_format.h"
+#include "frame/textkopie.h"
 
 namespace korvin {
 namespace {
 
 constexpr std::string_view datumMuster = "dd.mm.yyyy / hh:mm:ss";
-constexpr std::string_view programm = "WIN-KORVIN, Version 5.55 / qk ";
-
-template <std::size_t N>
-std::string utf8(const FesterText<N>& text) {
-  return vonCp1252(text.trimmed());
-}
 
 std::string wert(double zahl) {
   return istLeer(zahl) ? "?.?" : formatNumber(zahl, "0.0000");
 }
 
-std::string rechtsGetrimmt(std::string text) {
-  text.erase(text.find_last_not_of(' ') + 1);
-  return text;
-}
-
-class TextCopy {
- public:
-  explicit TextCopy(Dictionary& dictionary) : dictionary_(dictionary) {}
-
-  void zeile(const std::string& text = {}) { text_ += text + NeueZeile; }
-  void angabe(std::int16_t nummer, const std::string& inhalt) {
-    zeile(dictionary_.DicText(nummer) + ":\t" + inhalt);
-  }
-  std::string text() && { return std::move(text_); }
-
- private:
-  Dictionary& dictionary_;
-  std::string text_;
-};
-
-void kopf(TextCopy& kopie, const PositionsInfo& info, Dictionary& dictionary) {
-  kopie.zeile("KORVIN-" + rechtsGetrimmt(dictionary.DicText(3019)) + ":\t" + utf8(info.FirmaName));
-  kopie.angabe(3048, utf8(info.ProgrammText));
-  kopie.angabe(3044, utf8(info.Bezeichnung));
-  kopie.angabe(3049, utf8(info.DateiName));
-  kopie.angabe(3056, reformatDate(utf8(info.Datum), datumMuster));
-  kopie.angabe(3008, utf8(info.Bediener));
-  kopie.angabe(3009, utf8(info.Kommentar));
-  kopie.angabe(3010, "-" + formatNumber(info.AnzahlMP, "0") + "-");
+void kopf(Textkopie& kopie, const PositionsInfo& info, Dictionary& dictionary) {
+  const auto angabe = [&](std::int16_t was, std::string_view inhalt) {
+    kopie.angabe(dictionary.DicText(was), inhalt);
+  };
+  kopie.angabe("KORVIN-" + rechtsGetrimmt(dictionary.DicText(3019)), utf8(info.FirmaName));
+  angabe(3048, utf8(info.ProgrammText));
+  angabe(3044, utf8(info.Bezeichnung));
+  angabe(3049, utf8(info.DateiName));
+  angabe(3056, reformatDate(utf8(info.Datum), datumMuster));
+  angabe(3008, utf8(info.Bediener));
+  angabe(3009, utf8(info.Kommentar));
+  angabe(3010, "-" + formatNumber(info.AnzahlMP, "0") + "-");
   const std::string_view zeit = filterzeit(info.Filter.full().front());
-  if (!zeit.empty()) kopie.angabe(3013, std::string(zeit));
+  if (!zeit.empty()) angabe(3013, zeit);
   kopie.zeile();
-  kopie.zeile(std::string(programm));
+  kopie.zeile(Programmzeile);
   kopie.zeile();
 }
 
 }  // namespace
 
 std::string positionTextCopy(const PositionsInfo& info, const PointStore& points, Dictionary& dictionary) {
-  TextCopy kopie(dictionary);
+  Textkopie kopie;
   kopf(kopie, info, dictionary);
   kopie.zeile(dictionary.DicText(3018) + ": ");
   kopie.zeile("MP\tDatum/Zeit\tX[mm]\tY[mm]");
@@ -75,7 +50,7 @@ std::string positionTextCopy(const PositionsInfo& info, const PointStore& points
                 wert(points.X().at(i)) + "\t" + wert(points.Y().at(i)));
   }
   kopie.zeile();
-  return std::move(kopie).text();
+  return kopie.text();
 }
 
 }  // namespace korvin

@@ -1,6 +1,7 @@
 #include "straightness/formgera.h"
 
 #include <stdexcept>
+#include <string>
 
 namespace korvin {
 
@@ -27,6 +28,17 @@ void ReiheLeeren(GeradReihe& reihe) {
 
 double ZWert(const LinienGeometrie& linie, std::int16_t punkt) {
   return linie.Z.at(static_cast<std::size_t>(punkt));
+}
+
+void FORMGERA::punktEintragen(double X, double Y) {
+  const std::int16_t punkt = reihe_.Linie.AktMP;
+  // Element 0 is the count.
+  if (punkt < 1) throw std::out_of_range("point " + std::to_string(punkt));
+  const auto index = static_cast<std::size_t>(punkt);
+  reihe_.X.Wert.at(index) = X;
+  reihe_.Y.Wert.at(index) = Y;
+  reihe_.Info.Geaendert = true;
+  ++eingetragen_;
 }
 
 void FORMGERA::bildUebernehmen() {

@@ -26,6 +26,12 @@ class FORMGERA {
   GeradDatei& bild() { return bild_; }
   const GeradDatei& bild() const { return bild_; }
 
+  /// Takes a pair of readings in mm, turned for the mounting, at the current point; what stood there is
+  /// replaced. Throws `std::out_of_range` if the current point lies outside 1 to 201.
+  void punktEintragen(double X, double Y);
+  /// How many pairs were taken; runs round at its end.
+  std::uint32_t eingetragen() const { return eingetragen_; }
+
   /// Copies the series into the image, before saving.
   void bildFuellen() { bild_ = reihe_; }
   /// Copies the image into the series, when a window shows a loaded file: it counts as loaded, and the
@@ -35,6 +41,7 @@ class FORMGERA {
  private:
   GeradReihe reihe_;
   GeradDatei bild_;
+  std::uint32_t eingetragen_ = 0;
 };
 
 }  // namespace korvin

@@ -1,19 +1,17 @@
 #include "straightness/straightness_file.h"
 
+#include "frame/cp1252.h"
 #include "frame/messart.h"
 #include "frame/settings_defaults.h"
+#include "frame/textkopie.h"
 #include "frame/zahl_text.h"
 #include "straightness/straightness_reader.h"
+#include "straightness/text_copy.h"
 
 namespace korvin {
 namespace {
 
 constexpr std::int16_t TextGescheitert = 1101;
-
-std::string rechtsGetrimmt(std::string name) {
-  name.erase(name.find_last_not_of(' ') + 1);
-  return name;
-}
 
 /// Why a measurement was refused, in words of the present language; empty for a length of no form.
 std::string leseGrund(Dictionary& dictionary, const StraightnessReadError& fehler) {
@@ -54,7 +52,16 @@ bool GeradDateien::g_DateiSpeichern(const std::string& rohName) {
   u_.formgera.bildFuellen();
   const auto bytes = toBytes(u_.formgera.bild());
   const SaveResult result = saveTogether(u_.files, {{name, [&bytes](SaveSink& sink) { sink.write(bytes); }}});
-  return melder_.gespeichert("g_DateiSpeichern", result);
+  if (!melder_.gespeichert("g_DateiSpeichern", result)) return false;
+  // The present setting decides about the text copy; the record's own flag is only kept.
+  if (!flagAusText(u_.profil.wert(einstellung::FormGeradheit::AsciiDatei))) return true;
+  return g_AsciiDateiSpeichern(name + "$");
+}
+
+bool GeradDateien::g_AsciiDateiSpeichern(const std::string& rohName) {
+  const std::string text = geradTextCopy(u_.formgera.reihe(), u_.system.Masssystem, u_.dictionary);
+  return melder_.gespeichert("g_AsciiDateiSpeichern",
+                             saveFile(u_.files, rechtsGetrimmt(rohName), textkopieBytes(text)));
 }
 
 }  // namespace korvin

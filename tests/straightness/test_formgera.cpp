@@ -108,5 +108,30 @@ TEST(FORMGERA, SavingTakesTheWholeSeries) {
   EXPECT_EQ(toBytes(formgera.bild()), toBytes(formgera.reihe()));
 }
 
+TEST(FORMGERA, TakesReadingsAtTheCurrentPoint) {
+  FORMGERA formgera;
+  formgera.reihe() = measured(6, 2500);
+  formgera.reihe().Linie.AktMP = 4;
+  formgera.punktEintragen(0.5, -0.25);
+  EXPECT_EQ(formgera.reihe().X.Wert.at(4), 0.5);
+  EXPECT_EQ(formgera.reihe().Y.Wert.at(4), -0.25);
+  EXPECT_EQ(formgera.reihe().X.Wert.at(3), 0.003);
+  EXPECT_TRUE(formgera.reihe().Info.Geaendert);
+  EXPECT_EQ(formgera.eingetragen(), 1U);
+}
+
+/// A loaded cursor may stand at 0, where the count of points lies.
+TEST(FORMGERA, NoReadingReplacesTheCount) {
+  FORMGERA formgera;
+  formgera.reihe() = measured(6, 2500);
+  for (const std::int16_t outside : {std::int16_t{0}, std::int16_t{-1}, std::int16_t{202}}) {
+    formgera.reihe().Linie.AktMP = outside;
+    EXPECT_THROW(formgera.punktEintragen(1, 1), std::out_of_range);
+  }
+  EXPECT_EQ(formgera.reihe().X.Wert.anzahl(), 6U);
+  EXPECT_FALSE(formgera.reihe().Info.Geaendert);
+  EXPECT_EQ(formgera.eingetragen(), 0U);
+}
+
 }  // namespace
 }  // namespace korvin
