@@ -82,6 +82,7 @@ TEST_F(PageSurfaceTest, WhatIsNotFiniteDrawsNothing) {
   surface.circle({0, 0}, nan, {});
   surface.disc({0, inf}, 1, 0);
   surface.fill({0, 0}, {nan, 1}, 0);
+  surface.fill({0, nan}, {1, 1}, 0);
   surface.text({0, nan}, "a", {}, {});
   EXPECT_TRUE(paper.alle.empty());
 }
@@ -135,6 +136,19 @@ TEST_F(PageSurfaceTest, ACircleIsRoundUnderUnequalScales) {
   EXPECT_EQ(paper.alle.size(), 36U);
 }
 
+TEST_F(PageSurfaceTest, ACircleIsCutAtEachEdge) {
+  for (const DataPoint centre :
+       {DataPoint{-4.5, 0}, DataPoint{4.5, 0}, DataPoint{0, -4.5}, DataPoint{0, 4.5}}) {
+    paper.alle.clear();
+    surface.circle(centre, 1, {});
+    EXPECT_GT(paper.alle.size(), 20U);
+    for (const DruckMarke& mark : paper.alle) {
+      EXPECT_EQ(mark.art, DruckMarke::Art::linie);
+      EXPECT_TRUE(mark.x > 49.999 && mark.x < 150.001 && mark.y > 59.999 && mark.y < 160.001);
+    }
+  }
+}
+
 TEST_F(PageSurfaceTest, ACircleOutsideMakesNoMark) {
   surface.circle({7, 0}, 1, {});
   EXPECT_TRUE(paper.alle.empty());
@@ -149,7 +163,10 @@ TEST_F(PageSurfaceTest, DiscsAreFilledRound) {
     area += std::fabs((mark.x2 - mark.x) * (mark.y2 - mark.y));
     EXPECT_LE(std::hypot(mark.x - 110, (mark.y + mark.y2) / 2 - 90), 2.001);
   }
-  EXPECT_NEAR(area, std::acos(-1.0) * 4, 0.1);
+  EXPECT_NEAR(area, std::acos(-1.0) * 4, 0.02);
+  EXPECT_EQ(paper.alle.size(), 80U) << "strips of a twentieth of a millimetre";
+  surface.disc({0, 0}, 0, 0);
+  EXPECT_EQ(paper.alle.size(), 80U);
 }
 
 TEST_F(PageSurfaceTest, FilledRectanglesAreCutAtTheEdge) {
@@ -184,9 +201,10 @@ TEST_F(PageSurfaceTest, TextsHangOnTheirAnchor) {
 
 TEST_F(PageSurfaceTest, AnchorsHoldUnderAScaleThatRunsLikeThePage) {
   surface.setWindow({5, -5, -5, 5});
-  surface.text({0, 0}, "ab", {}, {HorizontalAnchor::left, VerticalAnchor::bottom});
-  EXPECT_NEAR(only().x, 100, 1e-9);
+  surface.text({0, 0}, "ab", {}, {HorizontalAnchor::right, VerticalAnchor::bottom});
   EXPECT_NEAR(only().y2, 110, 1e-9);
+  // Data run to the left here, letters don't.
+  EXPECT_NEAR(only().x2, 100, 1e-9);
 }
 
 TEST_F(PageSurfaceTest, LookOfTexts) {
