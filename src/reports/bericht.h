@@ -5,6 +5,11 @@
 
 #include "frame/drucker.h"
 
+/// To add a report: a class like `PRNO` (prno.h) takes a snapshot of the record and makes of it, as data, an
+/// information block (info_block.h), blocks of statistics (statistik_block.h) and a `Tabelle` (tabelle.h)
+/// with its columns, row limits and page starts. Its `drucken` begins and ends each page with a
+/// `Seitenrahmen` (seitenrahmen.h); diagrams draw on a `PageSurface`. A function like `positionsBericht`
+/// makes a `Bericht` of it, for window and command line alike.
 namespace korvin {
 
 /// A report that can be composed as often as it is wanted: for the printer, the preview, a PDF. It owns a

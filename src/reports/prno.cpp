@@ -205,8 +205,8 @@ void PRNO::drucken(Drucker& drucker) const {
   if (teile_.XTabelle || teile_.YTabelle) {
     tabellenSeiten(rahmen, tabelle_, [&] {
       infoBlock(drucker);
-      if (teile_.XTabelle) blockDrucken(drucker, 0, tabellenBlockX, tabelleX_);
-      if (teile_.YTabelle) blockDrucken(drucker, 0, tabellenBlockY, tabelleY_);
+      if (teile_.XTabelle) AchsenBlock(drucker, 0, tabellenBlockX, tabelleX_);
+      if (teile_.YTabelle) AchsenBlock(drucker, 0, tabellenBlockY, tabelleY_);
     });
   }
   drucker.dokumentEnde();
@@ -222,8 +222,8 @@ void PRNO::diagrammSeite(Seitenrahmen& rahmen) const {
   Drucker& drucker = rahmen.drucker();
   rahmen.SeiteKopf();
   infoBlock(drucker);
-  blockDrucken(drucker, blockEinzug, diagrammBlockX, diagrammX_);
-  blockDrucken(drucker, blockEinzug, diagrammBlockY, diagrammY_);
+  AchsenBlock(drucker, blockEinzug, diagrammBlockX, diagrammX_);
+  AchsenBlock(drucker, blockEinzug, diagrammBlockY, diagrammY_);
   xyDiagramm(drucker);
   rahmen.SeiteFuss();
 }

@@ -12,7 +12,7 @@ constexpr double schrift = 9;
 // The bar over the x of a mean.
 constexpr double strichAbstand = 0.5;
 constexpr double strichLaenge = 1.5;
-constexpr double strichY = 0.9;
+constexpr double strichY = 0.8;
 
 constexpr double blockLinks = 20;
 constexpr double blockRechts = 176.5;
@@ -24,7 +24,7 @@ constexpr std::array<double, 6> senkrechte = {blockLinks, 25, 101, 126, 151, blo
 
 }  // namespace
 
-void blockDrucken(Drucker& drucker, double x0, double y, const Block& block) {
+void AchsenBlock(Drucker& drucker, double x0, double y, const Block& block) {
   schriftSetzen(drucker, schrift);
   for (const BlockRegel& r : block.regeln) regel(drucker, x0 + r.x1, y + r.y1, x0 + r.x2, y + r.y2);
   for (const BlockZelle& zelle : block.zellen) {

@@ -32,7 +32,7 @@ struct Block {
 };
 
 /// Prints a block with its corner at (x0, y).
-void blockDrucken(Drucker& drucker, double x0, double y, const Block& block);
+void AchsenBlock(Drucker& drucker, double x0, double y, const Block& block);
 
 /// What a statistics block of one row says; all texts are UTF-8.
 struct BlockTexte {

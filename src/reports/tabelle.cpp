@@ -14,7 +14,7 @@ constexpr double zeilenRegel = 5;  // below a row
 constexpr double fussnoteY = 268;
 constexpr double fussnotenSchrift = 7;
 
-void tabellenKopf(Drucker& drucker, const Tabelle& tabelle, double y) {
+void TabellenKopf(Drucker& drucker, const Tabelle& tabelle, double y) {
   schriftSetzen(drucker, fussnotenSchrift);
   PositionSetzen(drucker, LinkerRand, fussnoteY);
   LinksDruck(drucker, tabelle.fussnote);
@@ -28,7 +28,7 @@ void tabellenKopf(Drucker& drucker, const Tabelle& tabelle, double y) {
   regel(drucker, LinkerRand, y + kopfRegel, tabelle.regelRechts, y + kopfRegel);
 }
 
-void tabellenZeile(Drucker& drucker, const Tabelle& tabelle, double y, int i) {
+void TabellenZeile(Drucker& drucker, const Tabelle& tabelle, double y, int i) {
   for (const TabellenSpalte& spalte : tabelle.spalten) {
     PositionSetzen(drucker, spalte.x, y);
     if (spalte.rechtsbuendig) {
@@ -46,7 +46,7 @@ void tabellenZeile(Drucker& drucker, const Tabelle& tabelle, double y, int i) {
 int zeilenDrucken(Drucker& drucker, const Tabelle& tabelle, const TabellenPlatz& platz, int erste) {
   const int ende = std::min(erste + platz.zeilen, tabelle.anzahl + 1);
   for (int i = erste; i < ende; ++i) {
-    tabellenZeile(drucker, tabelle, platz.zeilenY + (i - erste + 1) * zeilenHoehe, i);
+    TabellenZeile(drucker, tabelle, platz.zeilenY + (i - erste + 1) * zeilenHoehe, i);
   }
   return ende;
 }
@@ -59,7 +59,7 @@ void tabellenSeiten(Seitenrahmen& rahmen, const Tabelle& tabelle, const std::fun
   do {
     rahmen.SeiteKopf();
     if (naechste == 1) ueberTabelle();
-    tabellenKopf(rahmen.drucker(), tabelle, platz->kopfY);
+    TabellenKopf(rahmen.drucker(), tabelle, platz->kopfY);
     naechste = zeilenDrucken(rahmen.drucker(), tabelle, *platz, naechste);
     rahmen.SeiteFuss();
     platz = &tabelle.weitere;

@@ -134,7 +134,7 @@ TEST_F(ReportFrameTest, InfoBlockKeepsEachTextInItsPlace) {
 // ---- Statistics block ----
 
 TEST_F(ReportFrameTest, BlockOfOneRow) {
-  blockDrucken(paper, 13, 71, statistikBlock({"X", "XY-Title:", "x 0.010", "2s 0.002", "R 0.005"}));
+  AchsenBlock(paper, 13, 71, statistikBlock({"X", "XY-Title:", "x 0.010", "2s 0.002", "R 0.005"}));
   EXPECT_EQ(paper.textBei(1, 34, 72).text, "X");
   EXPECT_EQ(paper.textBei(1, 38, 72).text, "XY-Title:");
   EXPECT_EQ(paper.textBei(1, 116, 72).text, "x 0.010");
@@ -144,7 +144,7 @@ TEST_F(ReportFrameTest, BlockOfOneRow) {
 }
 
 TEST_F(ReportFrameTest, RulesOfABlock) {
-  blockDrucken(paper, 13, 71, statistikBlock({"X", "T", "x", "s", "R"}));
+  AchsenBlock(paper, 13, 71, statistikBlock({"X", "T", "x", "s", "R"}));
   const auto has = [this](double x1, double y1, double x2, double y2) {
     for (const DruckMarke& l : paper.linien(1)) {
       if (std::abs(l.x - x1) + std::abs(l.y - y1) + std::abs(l.x2 - x2) + std::abs(l.y2 - y2) < 1e-6)
@@ -159,7 +159,7 @@ TEST_F(ReportFrameTest, RulesOfABlock) {
 }
 
 TEST_F(ReportFrameTest, TheBarOfAMeanLiesOverItsX) {
-  blockDrucken(paper, 0, 65, statistikBlock({"X", "T", "x 0.010", "s", "R"}));
+  AchsenBlock(paper, 0, 65, statistikBlock({"X", "T", "x 0.010", "s", "R"}));
   const DruckMarke bar = paper.linien(1).back();
   EXPECT_NEAR(bar.x, 103.5, 1e-6);
   EXPECT_NEAR(bar.x2, 105, 1e-6);
@@ -171,7 +171,7 @@ TEST_F(ReportFrameTest, TheBarOfAMeanLiesOverItsX) {
 
 TEST_F(ReportFrameTest, CellsOfABlockKeepTheirTexts) {
   const std::string lang(75, 'W');
-  blockDrucken(paper, 0, 65, statistikBlock({"X", lang, lang, lang, lang}));
+  AchsenBlock(paper, 0, 65, statistikBlock({"X", lang, lang, lang, lang}));
   EXPECT_LT(paper.textBei(1, 25, 66).x2, 101);
   EXPECT_LT(paper.textBei(1, 103, 66).x2, 126);
   EXPECT_LT(paper.textBei(1, 128, 66).x2, 151);
