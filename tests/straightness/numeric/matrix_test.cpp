@@ -47,6 +47,7 @@ TEST(MatrixAnsicht, CellsMustFillRowsAndColumns) {
   EXPECT_THROW(MatrixAnsicht(cells, 0, 3), std::invalid_argument);
   EXPECT_THROW(MatrixAnsicht(cells, 3, 0), std::invalid_argument);
   EXPECT_THROW(MatrixAnsicht({}, 0, 0), std::invalid_argument);
+  EXPECT_THROW(MatrixAnsicht({}, 0, 3), std::invalid_argument);
 }
 
 TEST(OfAFile, PointsUpToItsCount) {
