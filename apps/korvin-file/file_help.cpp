@@ -15,6 +15,7 @@ SYNOPSIS
     korvin-file show FILE... [--json] [-o OUT]
     korvin-file text FILE... [-o OUT]
     korvin-file csv FILE... [-o OUT]
+    korvin-file report FILE... -o OUT.pdf [--parts PART,...]
     korvin-file check FILE...
 
 DESCRIPTION
@@ -35,6 +36,7 @@ COMMANDS
                 UTF-8 with a byte order mark where the language needs it
     csv         a table of the points: UTF-8, commas, a heading, a line a
                 point (see CSV)
+    report      the printed report as a PDF, with all its parts
     check       whether each file is a whole, readable measuring file, one
                 line each
 
@@ -46,19 +48,23 @@ OPTIONS
     -o OUT, --output OUT  write to the file OUT instead of standard output.
                           If OUT is a folder, each result goes there under
                           the name of its file and an ending: "part.O.csv",
-                          ".txt" for text and show, ".json" for JSON. text
-                          and csv of several files need a folder. "-" is
-                          standard output.
+                          ".txt" for text and show, ".json" for JSON,
+                          ".pdf". text, csv and report of several files need
+                          a folder. "-" is standard output.
     --json                show in JSON
-    --language N          of the text copy: 0 German (default), 1 English,
-                          2 French, 3 Italian, 4 Spanish, 5 Swedish,
-                          6 Chinese, 7 Japanese
+    --parts PART,...      only these parts of the report. A *.O has diagram, x
+                          and y: the page with the diagram, and the columns
+                          of the table.
+    --language N          of text copy and report: 0 German (default),
+                          1 English, 2 French, 3 Italian, 4 Spanish,
+                          5 Swedish, 6 Chinese, 7 Japanese
     --dictionary FILE     the dictionary with the words of these languages;
                           without it korvin.mdb beside the program, then in
                           the program's folder in the user's data
     --inch                lengths in the inch system. A *.O is never
                           converted: its numbers stand in the unit they were
-                          measured in, which the file does not tell.
+                          measured in, which the file does not tell. Its
+                          report names mil instead of mm.
     --penta ARCSECONDS    squareness error of the penta prism, -3600 to 3600
                           (default 0). A *.O has no use for it.
     --help                print this page
@@ -100,6 +106,7 @@ EXAMPLES
     korvin-file show part.O
     korvin-file show --json part.O | jq .statistics.x.mean
     korvin-file csv *.O -o tables/
+    korvin-file report part.O -o part.pdf --parts diagram,x --language 1
     korvin-file check archive/*.O || echo "some are bad"
 )page";
 

@@ -10,8 +10,11 @@
 namespace korvin::file {
 namespace {
 
-constexpr std::array<std::pair<std::string_view, Command>, 4> commands{
-    {{"show", Command::show}, {"text", Command::text}, {"csv", Command::csv}, {"check", Command::check}}};
+constexpr std::array<std::pair<std::string_view, Command>, 5> commands{{{"show", Command::show},
+                                                                        {"text", Command::text},
+                                                                        {"csv", Command::csv},
+                                                                        {"report", Command::report},
+                                                                        {"check", Command::check}}};
 
 struct Option {
   std::string_view name;
@@ -39,6 +42,18 @@ double penta(const std::string& text) {
   return numberIn(text, -3600.0, 3600.0, "an angle in seconds of arc, -3600 to 3600");
 }
 
+/// The names between commas.
+std::vector<std::string> names(const std::string& text) {
+  std::vector<std::string> all;
+  std::size_t from = 0;
+  for (std::size_t comma = 0; comma != std::string::npos; from = comma + 1) {
+    comma = text.find(',', from);
+    all.push_back(text.substr(from, comma == std::string::npos ? comma : comma - from));
+    if (all.back().empty()) throw OptionError("needs names with commas between");
+  }
+  return all;
+}
+
 const std::vector<Option>& allOptions() {
   static const std::vector<Option> options{
       {"-o", true, [](auto& o, auto& v) { o.output = path(v); }},
@@ -49,6 +64,7 @@ const std::vector<Option>& allOptions() {
       {"--dictionary", true, [](auto& o, auto& v) { o.dictionary = path(v); }},
       {"--inch", false, [](auto& o, auto&) { o.inch = true; }},
       {"--penta", true, [](auto& o, auto& v) { o.pentaArcseconds = penta(v); }},
+      {"--parts", true, [](auto& o, auto& v) { o.parts = names(v); }},
       {"--help", false, [](auto& o, auto&) { o.help = true; }},
       {"--version", false, [](auto& o, auto&) { o.version = true; }},
   };
@@ -138,6 +154,10 @@ class Parser {
     const std::string command(commandName(parsed_.command));
     if (parsed_.files.empty()) throw OptionError(command + " needs a measuring file");
     if (parsed_.json && parsed_.command != Command::show) throw OptionError(command + " knows no --json");
+    if (!parsed_.parts.empty() && parsed_.command != Command::report)
+      throw OptionError(command + " knows no --parts");
+    if (parsed_.output.empty() && parsed_.command == Command::report)
+      throw OptionError(command + " needs -o OUT.pdf");
     if (!parsed_.output.empty() && parsed_.command == Command::check)
       throw OptionError(command + " knows no --output");
   }

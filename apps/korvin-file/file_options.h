@@ -12,7 +12,7 @@ struct OptionError : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-enum class Command { show, text, csv, check };
+enum class Command { show, text, csv, report, check };
 
 /// What the command line asks for.
 struct FileOptions {
@@ -24,6 +24,7 @@ struct FileOptions {
   std::string dictionary;  ///< empty: where the program has it
   bool inch = false;
   double pentaArcseconds = 0;
+  std::vector<std::string> parts;  ///< of the report; none: all
   bool help = false;
   bool version = false;
 

@@ -1,5 +1,6 @@
 #include "korvin-file/file_tool.h"
 
+#include <algorithm>
 #include <exception>
 #include <memory>
 #include <optional>
@@ -8,6 +9,7 @@
 #include "korvin-file/measuring_kind.h"
 #include "korvin-file/output.h"
 #include "korvin-file/tool_dictionary.h"
+#include "korvin-file/utf8.h"
 #include "korvin-file/value_text.h"
 
 namespace korvin::file {
@@ -17,8 +19,18 @@ constexpr int allWell = 0;
 constexpr int somethingBad = 1;
 constexpr int wrongUse = 2;
 
-/// Makes a result's bytes of a measuring file.
-using Maker = std::function<std::string(const MeasuringFile&)>;
+/// Makes a result's bytes of a measuring file and its path.
+using Maker = std::function<std::string(const MeasuringFile&, const std::string& path)>;
+
+bool contains(const std::vector<std::string_view>& names, const std::string& name) {
+  return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+std::string joined(const std::vector<std::string_view>& names) {
+  std::string text;
+  for (const std::string_view name : names) text.append(text.empty() ? "" : ", ").append(name);
+  return text;
+}
 
 /// One call of the tool, its options read.
 class Run {
@@ -35,7 +47,11 @@ class Run {
         text();
         break;
       case Command::csv:
-        convert(".csv", [this](const MeasuringFile& file) { return file.table(units()); });
+        convert(".csv",
+                [this](const MeasuringFile& file, const std::string&) { return file.table(units()); });
+        break;
+      case Command::report:
+        report();
         break;
       case Command::check:
         check();
@@ -110,16 +126,41 @@ class Run {
     if (together && !all.empty()) deliver(results.front(), shownTogether(all));
   }
 
-  // ---- text, csv ----
+  // ---- text, csv, report ----
+
+  /// Opened with the first file that needs it.
+  Dictionary& words() {
+    if (!words_)
+      words_.emplace(surroundings_.files, options_.dictionary, surroundings_.dictionaryPaths,
+                     options_.language);
+    return words_->dictionary();
+  }
 
   void text() {
-    std::optional<ToolDictionary> words;
-    convert(".txt", [&](const MeasuringFile& file) {
-      if (!words)
-        words.emplace(surroundings_.files, options_.dictionary, surroundings_.dictionaryPaths,
-                      options_.language);
-      return file.textCopy(units(), words->dictionary());
+    convert(".txt", [this](const MeasuringFile& file, const std::string&) {
+      return file.textCopy(units(), words());
     });
+  }
+
+  void report() {
+    for (const std::string& path : options_.files) partsOf(path);  // wrong names are told before all work
+    convert(".pdf", [this](const MeasuringFile& file, const std::string& path) {
+      const ReportMeans means{units(), partsOf(path), asUtf8(path), words(), surroundings_.clock};
+      return surroundings_.pdf(file.report(means), options_.language);
+    });
+  }
+
+  /// The parts of the report of `path`; all if none is named. Throws `OptionError` for one that it has not.
+  std::vector<std::string> partsOf(const std::string& path) const {
+    const MeasuringKind* kind = kindOfHead(path);
+    if (kind == nullptr) return {};  // refused when it is read
+    const auto known = kind->reportParts();
+    for (const std::string& part : options_.parts) {
+      if (!contains(known, part))
+        throw OptionError("--parts " + part + ": the report of a *" + std::string(kind->extension()) +
+                          " has the parts " + joined(known));
+    }
+    return options_.parts.empty() ? std::vector<std::string>(known.begin(), known.end()) : options_.parts;
   }
 
   void convert(std::string_view ending, const Maker& make) {
@@ -127,7 +168,7 @@ class Run {
     for (std::size_t i = 0; i < options_.files.size(); ++i) {
       const std::string& path = options_.files[i];
       std::string bytes;
-      if (guarded(path, [&] { bytes = make(*readMeasuringFile(surroundings_.files, path)); }))
+      if (guarded(path, [&] { bytes = make(*readMeasuringFile(surroundings_.files, path), path); }))
         deliver(results[i], bytes);
     }
   }
@@ -151,6 +192,7 @@ class Run {
 
   const FileOptions& options_;
   const Surroundings& surroundings_;
+  std::optional<ToolDictionary> words_;
   int status_ = allWell;
 };
 

@@ -5,7 +5,9 @@
 #include <string_view>
 #include <vector>
 
+#include "frame/clock.h"
 #include "frame/file_system.h"
+#include "reports/bericht.h"
 
 namespace korvin::file {
 
@@ -15,6 +17,9 @@ struct Surroundings {
   std::function<bool(std::string_view bytes)> print;    ///< to standard output; false if that failed
   std::function<void(std::string_view line)> complain;  ///< a line to standard error
   std::vector<std::string> dictionaryPaths;             ///< where a dictionary is looked for, in order
+  const Clock& clock;
+  /// The bytes of a report's PDF; `language` 0 to 7. Throws `std::exception`.
+  std::function<std::string(const Bericht& report, int language)> pdf;
 };
 
 /// Runs the tool with its arguments (without the program's name). Answers the exit status: 0 all went well, 1

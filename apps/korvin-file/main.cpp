@@ -5,10 +5,12 @@
 #include <string_view>
 #include <vector>
 
+#include "frame/clock.h"
 #include "frame/folders.h"
 #include "frame/posix_file_system.h"
 #include "frame/programmstart.h"
 #include "korvin-file/file_tool.h"
+#include "korvin-file/pdf_maker.h"
 
 namespace {
 
@@ -33,7 +35,13 @@ int main(int argc, char** argv) {
   std::signal(SIGXFSZ, SIG_IGN);  // a limit of the file size is told as a full disk
   try {
     korvin::PosixFileSystem files;
-    return korvin::file::runFileTool({argv + 1, argv + argc}, {files, print, complain, dictionaryPaths()});
+    const korvin::SystemClock clock;
+    korvin::file::PdfMaker pdfs;
+    const auto pdf = [&pdfs](const korvin::Bericht& report, int language) {
+      return pdfs.pdf(report, language);
+    };
+    return korvin::file::runFileTool({argv + 1, argv + argc},
+                                     {files, print, complain, dictionaryPaths(), clock, pdf});
   } catch (const std::exception& error) {
     complain(std::string("korvin-file: ") + error.what());
     return 1;

@@ -20,6 +20,7 @@
 #include <string_view>
 #include <vector>
 
+#include "frame/clock.h"
 #include "frame/dictionary.h"
 #include "frame/file_error.h"
 #include "frame/file_system.h"
@@ -43,9 +44,12 @@ struct Units {
 };
 
 /// What a report is made with.
-struct ReportWishes {
+struct ReportMeans {
   Units units;
-  std::vector<std::string> parts;  ///< names of `MeasuringKind::reportParts()`, none twice, at least one
+  std::vector<std::string> parts;  ///< names of `MeasuringKind::reportParts()`, at least one
+  std::string path;                ///< of the measuring file, UTF-8; the report tells its last name
+  Dictionary& dictionary;          ///< asked while the report is made, not later
+  const Clock& clock;              ///< tells the time of printing; outlives the report
 };
 
 /// A measuring file that was read, whole and checked.
@@ -61,6 +65,8 @@ class MeasuringFile {
   virtual std::string textCopy(const Units& units, Dictionary& dictionary) const = 0;
   /// The table of `csv`: UTF-8, lines end with "\n".
   virtual std::string table(const Units& units) const = 0;
+  /// The printed report. It does not need the file any more.
+  virtual Bericht report(const ReportMeans& means) const = 0;
 };
 
 /// A kind of measuring file.
@@ -74,6 +80,8 @@ class MeasuringKind {
   virtual std::string_view extension() const = 0;
   /// Endings that the files beside a head have behind its name, such as "1".
   virtual std::vector<std::string_view> endingsBeside() const = 0;
+  /// Names of the parts of its report, in the order of the pages.
+  virtual std::vector<std::string_view> reportParts() const = 0;
   /// Reads the measurement in `path`. Throws `FileProblem`.
   virtual std::unique_ptr<MeasuringFile> read(FileSystem& files, const std::string& path) const = 0;
 };

@@ -1,7 +1,6 @@
 #include "korvin-file/position_kind.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "frame/cp1252.h"
 #include "frame/leerwert.h"
@@ -9,11 +8,17 @@
 #include "korvin-file/iso_time.h"
 #include "position/position_reader.h"
 #include "position/text_copy.h"
+#include "reports/positions_bericht.h"
+#include "straightness/numeric/kennwerte.h"
 
 namespace korvin::file {
 namespace {
 
 constexpr std::size_t headLength = recordSize<PositionsDatei>();
+
+constexpr std::string_view diagramPart = "diagram";
+constexpr std::string_view xPart = "x";
+constexpr std::string_view yPart = "y";
 
 /// Results of an axis; before the first drawing they are the empty value.
 bool isResult(std::string_view name) {
@@ -26,30 +31,30 @@ Value timeOf(double days) {
   return text ? Value::ofText(*text) : Value{};
 }
 
-/// Mean, sample deviation, extremes and span of the readings less the offset, as the window shows them. From
-/// the points themselves, in two passes, so that readings far from zero lose no digits.
-Value statistics(const AchsenInfo& axis, const PunktFeld& readings, std::size_t count) {
-  std::vector<double> values;
-  for (std::size_t i = 1; i <= count; ++i) {
-    if (!istLeer(readings.at(i))) values.push_back(readings.at(i) - axis.Offset);
-  }
-  const auto n = static_cast<double>(values.size());
-  double sum = 0;
-  for (const double value : values) sum += value;
-  const double mean = sum / n;
-  double squares = 0;
-  for (const double value : values) squares += (value - mean) * (value - mean);
+/// The readings less the offset, as a counted array. Open ones stay open.
+std::vector<double> lessOffset(const AchsenInfo& axis, const PunktFeld& readings, std::size_t count) {
+  std::vector<double> values{static_cast<double>(count)};
+  for (std::size_t i = 1; i <= count; ++i)
+    values.push_back(istLeer(readings.at(i)) ? Leerwert : readings.at(i) - axis.Offset);
+  return values;
+}
 
-  Value told = Value::ofObject();
-  told.add("count", Value::ofNumber(static_cast<long long>(values.size())));
-  told.add("offset", Value::ofNumber(axis.Offset));
-  told.add("mean", values.empty() ? Value{} : Value::ofNumber(mean));
-  told.add("deviation", values.size() < 2 ? Value{} : Value::ofNumber(std::sqrt(squares / (n - 1))));
-  const auto [least, greatest] = std::minmax_element(values.begin(), values.end());
-  told.add("maximum", values.empty() ? Value{} : Value::ofNumber(*greatest));
-  told.add("minimum", values.empty() ? Value{} : Value::ofNumber(*least));
-  told.add("span", values.empty() ? Value{} : Value::ofNumber(*greatest - *least));
-  return told;
+/// Mean, sample deviation, extremes and span of the readings less the offset, as the window shows them; but
+/// from the points themselves: the sums of the record are only as good as what filled them.
+Value statistics(const AchsenInfo& axis, const PunktFeld& readings, std::size_t count) {
+  const std::vector<double> values = lessOffset(axis, readings, count);
+  const Kennwert mean = Mittelwert(values);
+  const Kennwert deviation = Standardabweichung(values);
+  const Extremwerte extremes = MinMax(values);
+  const auto open = std::count(values.begin() + 1, values.end(), Leerwert);
+  const auto told = [](bool valid, double value) { return valid ? Value::ofNumber(value) : Value{}; };
+  return Value::ofObject({{"count", Value::ofNumber(static_cast<long long>(count) - open)},
+                          {"offset", Value::ofNumber(axis.Offset)},
+                          {"mean", told(mean.gueltig, mean.wert)},
+                          {"deviation", told(deviation.gueltig, deviation.wert)},
+                          {"maximum", told(extremes.gueltig, extremes.Maximum)},
+                          {"minimum", told(extremes.gueltig, extremes.Minimum)},
+                          {"span", told(extremes.gueltig, extremes.Maximum - extremes.Minimum)}});
 }
 
 class PositionFile : public MeasuringFile {
@@ -72,6 +77,15 @@ class PositionFile : public MeasuringFile {
 
   std::string textCopy(const Units&, Dictionary& dictionary) const override {
     return textkopieBytes(positionTextCopy(head_.Info, points_, dictionary));
+  }
+
+  Bericht report(const ReportMeans& means) const override {
+    const auto wanted = [&means](std::string_view part) {
+      return std::find(means.parts.begin(), means.parts.end(), part) != means.parts.end();
+    };
+    return positionsBericht(
+        {head_, points_, means.dictionary, means.clock, means.units.inch ? 1 : 0, means.path},
+        {wanted(diagramPart), wanted(xPart), wanted(yPart)});
   }
 
   std::string table(const Units&) const override {
@@ -133,6 +147,7 @@ class PositionKind : public MeasuringKind {
   std::string_view name() const override { return "position"; }
   std::string_view extension() const override { return ".O"; }
   std::vector<std::string_view> endingsBeside() const override { return {"1"}; }
+  std::vector<std::string_view> reportParts() const override { return {diagramPart, xPart, yPart}; }
 
   std::unique_ptr<MeasuringFile> read(FileSystem& files, const std::string& path) const override {
     PositionReader reader(files, path);

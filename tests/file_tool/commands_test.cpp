@@ -285,8 +285,8 @@ TEST_F(FileTool, EveryBadFileIsRefusedWithAReasonByEveryCommand) {
     const std::string path = entry.path().string();
     const bool good = entry.path().stem().string().starts_with("odd-");
     SCOPED_TRACE(path);
-    for (const char* command : {"show", "text", "csv"}) {
-      EXPECT_EQ(run({command, path}), good ? 0 : 1);
+    for (const char* command : {"show", "text", "csv", "report"}) {
+      EXPECT_EQ(run({command, path, "-o", "-"}), good ? 0 : 1);
       EXPECT_EQ(run.output.empty(), !good);
       EXPECT_THAT(run.errors, StartsWith(good ? "" : "korvin-file: " + path + ": "));
     }

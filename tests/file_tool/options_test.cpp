@@ -46,9 +46,20 @@ TEST(FileOptions, EachReachesItsPlaceWhereverItStands) {
   EXPECT_EQ(options.output, "out");
 }
 
+std::vector<std::string> callOf(const std::string& command) {
+  if (command == "report") return {command, "a.O", "-o", "a.pdf"};
+  return {command, "a.O"};
+}
+
 TEST(FileOptions, EachCommandIsKnown) {
   for (const std::string& name : commandNames())
-    EXPECT_EQ(commandName(parseOptions({name, "a.O"}).command), name);
+    EXPECT_EQ(commandName(parseOptions(callOf(name)).command), name);
+}
+
+TEST(FileOptions, PartsStandBetweenCommas) {
+  EXPECT_THAT(parseOptions({"report", "a.O", "-o", "-", "--parts", "x,diagram"}).parts,
+              ElementsAre("x", "diagram"));
+  EXPECT_TRUE(parseOptions({"report", "a.O", "-o", "-"}).parts.empty());
 }
 
 TEST(FileOptions, DashIsStandardOutput) {
@@ -73,6 +84,11 @@ TEST(FileOptions, WrongUseIsTold) {
   EXPECT_EQ(complaint({"show", "a.O", "--json=yes"}), "--json takes no value");
   EXPECT_EQ(complaint({"csv", "a.O", "--json"}), "csv knows no --json");
   EXPECT_EQ(complaint({"check", "a.O", "-o", "b"}), "check knows no --output");
+  EXPECT_EQ(complaint({"report", "a.O"}), "report needs -o OUT.pdf");
+  EXPECT_EQ(complaint({"csv", "a.O", "--parts", "x"}), "csv knows no --parts");
+  for (const char* parts : {"", ",", "x,", ",x", "x,,y"})
+    EXPECT_THAT(complaint({"report", "a.O", "-o", "-", "--parts", parts}), HasSubstr("commas between"))
+        << parts;
   EXPECT_THAT(complaint({"show", "-"}), HasSubstr("standard input cannot be read"));
   EXPECT_THAT(complaint({"show", ""}), HasSubstr("needs a name"));
   for (const char* language : {"8", "-1", "1.5", "", "de"})

@@ -38,7 +38,7 @@ class FileOutput : public ::testing::Test {
 };
 
 TEST_F(FileOutput, FileHoldsWhatStandardOutputWouldGet) {
-  for (const char* command : {"show", "text", "csv"}) {
+  for (const char* command : {"show", "text", "csv", "report"}) {
     ASSERT_EQ(run({command, file, "-o", "-"}), 0);
     const std::string printed = run.output;
     ASSERT_EQ(run({command, file, "-o", folder.path("result")}), 0) << run.errors;
@@ -55,9 +55,10 @@ TEST_F(FileOutput, FolderGetsOneResultForEachFile) {
   ASSERT_EQ(run({"csv", file, other, "-o", out}), 0) << run.errors;
   ASSERT_EQ(run({"text", file, other, "-o", out + "/"}), 0);
   ASSERT_EQ(run({"show", "--json", file, other, "-o", out}), 0);
+  ASSERT_EQ(run({"report", file, other, "-o", out}), 0);
   ASSERT_EQ(run({"show", file, "-o", out}), 0);
   EXPECT_THAT(namesOut(), UnorderedElementsAre("point.O.csv", "other.O.csv", "point.O.txt", "other.O.txt",
-                                               "point.O.json", "other.O.json"));
+                                               "point.O.json", "other.O.json", "point.O.pdf", "other.O.pdf"));
   EXPECT_EQ(test::parseJson(test::readFile(out + "/other.O.json"))["file"].text, other);
 }
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 
@@ -70,6 +71,23 @@ TEST_F(FileProgram, EachCommandWorksInAFolderThatCannotBeWritten) {
   EXPECT_EQ(output, "point.O: ok (position, 40 points)\n");
   fs::permissions(folder.path(), fs::perms::owner_all);
   EXPECT_THAT(folder.names(), ElementsAre("point.O", "point.O1"));
+}
+
+TEST_F(FileProgram, ReportIsAPdfWithTextsAndNeedsNoScreen) {
+  ASSERT_EQ(
+      run("report point.O -o point.pdf --language 0", "unset DISPLAY QT_QPA_PLATFORM XDG_RUNTIME_DIR; "), 0);
+  EXPECT_EQ(errors + output, "");
+  EXPECT_THAT(folder.names(), ElementsAre("point.O", "point.O1", "point.pdf"));
+  const std::string text =
+      "pdftotext -enc UTF-8 '" + folder.path("point.pdf") + "' '" + results.path("text") + "'";
+  ASSERT_EQ(std::system(text.c_str()), 0);
+  const std::string pages = test::readFile(results.path("text"));
+  EXPECT_EQ(std::count(pages.begin(), pages.end(), '\f'), 3) << "one for each page";
+  for (const char* words : {"Prüfstelle Süd", "Spindellager", "M. Größ", "point.O", "X[mm]", "0.0261"})
+    EXPECT_THAT(pages, HasSubstr(words));
+  EXPECT_EQ(run("report point.O -o part.pdf --parts y"), 0);
+  EXPECT_EQ(run("report point.O"), 2);
+  EXPECT_EQ(run("report point.O -o - --parts z"), 2);
 }
 
 TEST_F(FileProgram, StatusTellsHowItWent) {
