@@ -3,9 +3,10 @@
 #include <vector>
 
 #include "frame/cp1252.h"
-#include "frame/file_message.h"
+#include "frame/messart.h"
 #include "frame/safe_save.h"
 #include "frame/settings_defaults.h"
+#include "frame/textkopie.h"
 #include "frame/zahl_text.h"
 #include "position/position_reader.h"
 #include "position/text_copy.h"
@@ -14,12 +15,6 @@ namespace korvin {
 namespace {
 
 constexpr std::size_t tripelLaenge = 3 * sizeof(double);
-constexpr std::int16_t titelPosition = 5502;
-
-std::string rechtsGetrimmt(std::string name) {
-  name.erase(name.find_last_not_of(' ') + 1);
-  return name;
-}
 
 /// The point file: triples X, Y, T from index 0, whose three numbers are the count.
 std::vector<std::byte> punkteAlsBytes(const PointStore& punkte, std::size_t anzahl) {
@@ -66,7 +61,7 @@ bool PositionsDateien::o_DateiLaden(const std::string& rohName) {
     return ladenGescheitert(name, leser.headError().number,
                             dateiGrund(u_.dictionary, leser.headError(), false));
   const bool andereLaenge = leser.otherLength();
-  if (andereLaenge && !frageLaenge()) return ladenGescheitert(name, 0, {});
+  if (andereLaenge && !melder_.andereLaengeLaden(MessartPosition)) return ladenGescheitert(name, 0, {});
 
   PositionsDatei datei;
   if (const PositionReadError fehler = leser.read(datei, gelesen_, bytes_))
@@ -77,46 +72,18 @@ bool PositionsDateien::o_DateiLaden(const std::string& rohName) {
   return true;
 }
 
-bool PositionsDateien::frageLaenge() {
-  u_.meldung = {"KORVIN-" + u_.dictionary.DicText(titelPosition), u_.dictionary.DicText(6010)};
-  return u_.messages.show(u_.meldung, MessageIcon::question, MessageButtons::yesNoCancel) ==
-         MessageAnswer::yes;
-}
-
 bool PositionsDateien::ladenGescheitert(const std::string& name, int nummer, const std::string& grund) {
-  u_.meldung.MsgTitel = dateiTitel(u_.dictionary, "o_DateiLaden", std::to_string(nummer));
-  u_.meldung.MsgText = u_.dictionary.DicText(1101) + NeueZeile + "File: " + PositionReader::pointName(name) +
-                       NeueZeile + u_.dictionary.DicText(1107);
-  if (!grund.empty()) u_.meldung.MsgText += NeueZeile + grund;
-  u_.messages.beep();
-  u_.messages.show(u_.meldung, MessageIcon::warning, MessageButtons::ok);
-  return false;
+  std::string text = u_.dictionary.DicText(1101) + NeueZeile + "File: " + PositionReader::pointName(name) +
+                     NeueZeile + u_.dictionary.DicText(1107);
+  if (!grund.empty()) text += NeueZeile + grund;
+  return melder_.gescheitert("o_DateiLaden", std::to_string(nummer), text);
 }
 
 // ---- Saving ----
 
-bool PositionsDateien::pfadPasst(const std::string& name) {
-  const auto bytes = zuCp1252(name);
-  // Cut to the record's length the path would name another file.
-  if (bytes && decltype(PositionsInfo::DateiName)::fits(*bytes)) return true;
-  u_.meldung = {dateiTitel(u_.dictionary, "o_DateiSpeichern", "0"),
-                u_.dictionary.DicText(bytes ? 7300 : 7301) + NeueZeile + "File: " + name};
-  u_.messages.beep();
-  u_.messages.show(u_.meldung, MessageIcon::warning, MessageButtons::ok);
-  return false;
-}
-
-bool PositionsDateien::gespeichert(const char* operation, const SaveResult& result) {
-  if (result.state == SaveState::saved) return true;
-  u_.meldung = speichernGescheitert(u_.dictionary, operation, result);
-  u_.messages.beep();
-  u_.messages.show(u_.meldung, MessageIcon::warning, MessageButtons::ok);
-  return false;
-}
-
 bool PositionsDateien::o_DateiSpeichern(const std::string& rohName) {
   const std::string name = rechtsGetrimmt(rohName);
-  if (!pfadPasst(name)) return false;
+  if (!melder_.pfadPasst("o_DateiSpeichern", name)) return false;
   u_.formpos.bildFuellen();
   const PositionsDatei& bild = u_.formpos.bild();
   const auto kopf = toBytes(bild);
@@ -124,7 +91,7 @@ bool PositionsDateien::o_DateiSpeichern(const std::string& rohName) {
   const SaveResult result = saveTogether(
       u_.files, {{name, [&kopf](SaveSink& sink) { sink.write(kopf); }},
                  {PositionReader::pointName(name), [&punkte](SaveSink& sink) { sink.write(punkte); }}});
-  if (!gespeichert("o_DateiSpeichern", result)) return false;
+  if (!melder_.gespeichert("o_DateiSpeichern", result)) return false;
   // The present setting decides about the text copy; the record's own flag is only kept.
   if (!flagAusText(u_.profil.wert(einstellung::FormPosition::AsciiDatei))) return true;
   return o_AsciiDateiSpeichern(name + "$");
@@ -132,8 +99,8 @@ bool PositionsDateien::o_DateiSpeichern(const std::string& rohName) {
 
 bool PositionsDateien::o_AsciiDateiSpeichern(const std::string& rohName) {
   const std::string text = positionTextCopy(u_.formpos.Info(), u_.formpos.punkte(), u_.dictionary);
-  return gespeichert("o_AsciiDateiSpeichern",
-                     saveFile(u_.files, rechtsGetrimmt(rohName), textkopieBytes(text)));
+  return melder_.gespeichert("o_AsciiDateiSpeichern",
+                             saveFile(u_.files, rechtsGetrimmt(rohName), textkopieBytes(text)));
 }
 
 }  // namespace korvin

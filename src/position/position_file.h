@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "frame/dictionary.h"
+#include "frame/file_message.h"
 #include "frame/file_system.h"
 #include "frame/message_port.h"
 #include "frame/profil.h"
@@ -29,7 +30,8 @@ struct PositionsDateiUmgebung {
 /// flag. Names are UTF-8.
 class PositionsDateien {
  public:
-  explicit PositionsDateien(const PositionsDateiUmgebung& umgebung) : u_(umgebung) {}
+  explicit PositionsDateien(const PositionsDateiUmgebung& umgebung)
+      : u_(umgebung), melder_(umgebung.messages, umgebung.meldung, umgebung.dictionary) {}
 
   /// Reads F into the file image and its points into the store. True on success; after a failure image and
   /// points are as before. A head of another length is taken on Yes to a question, and `Geaendert` of the
@@ -44,12 +46,10 @@ class PositionsDateien {
   bool o_AsciiDateiSpeichern(const std::string& name);
 
  private:
-  bool frageLaenge();
   bool ladenGescheitert(const std::string& name, int nummer, const std::string& grund);
-  bool pfadPasst(const std::string& name);
-  bool gespeichert(const char* operation, const SaveResult& result);
 
   PositionsDateiUmgebung u_;
+  Dateimelder melder_;
   // Room for loading, kept: a refused file must leave the points alone, so they are read beside them first.
   std::vector<std::byte> bytes_;
   PointStore gelesen_;
