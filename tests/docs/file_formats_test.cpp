@@ -12,6 +12,7 @@
 
 #include "frame/layout.h"
 #include "position/record.h"
+#include "straightness/record.h"
 
 namespace {
 
@@ -59,6 +60,8 @@ std::string typeName() {
     return "float";
   } else if constexpr (std::is_same_v<T, std::int16_t>) {
     return "int16";
+  } else if constexpr (FieldCodec<T>::kind == FieldKind::numbers) {
+    return std::to_string(FieldCodec<T>::width / sizeof(double)) + " floats";
   } else if constexpr (FieldCodec<T>::kind == FieldKind::reserved) {
     return std::to_string(FieldCodec<T>::width) + " bytes";
   } else {
@@ -85,6 +88,30 @@ TEST(FileFormatsPage, TellsTheGeneralPartOfAPosition) {
   const std::size_t start = 2 * korvin::recordSize<korvin::AchsenInfo>();
   EXPECT_EQ(told(section("General part, offsets", "## Position: the points")),
             actual<korvin::PositionsInfo>(start));
+}
+
+TEST(FileFormatsPage, TellsTheAxisOfAStraightness) {
+  EXPECT_EQ(told(section("## Straightness, *.G", "General part")), actual<korvin::GeradAchse>(0));
+}
+
+TEST(FileFormatsPage, TellsTheGeneralPartOfAStraightness) {
+  const std::size_t start = 2 * korvin::recordSize<korvin::GeradAchse>();
+  const std::string page = section("## Straightness, *.G", "## Straightness: the older forms");
+  ASSERT_NE(page, "");
+  Layout general = actual<korvin::GeradDatei>(0);
+  general.erase(general.begin(), general.lower_bound(start));
+  EXPECT_EQ(told(page.substr(page.find("General part"))), general);
+}
+
+/// The lengths of the three forms, and where their parts begin.
+TEST(FileFormatsPage, TellsTheOlderFormsOfAStraightness) {
+  const std::string forms = section("## Straightness: the older forms", "## Straightness: the text copy");
+  const auto tells = [&forms](const std::string& words) { return forms.find(words) != std::string::npos; };
+  using OldAxis = korvin::GeradAchseMit<korvin::MaxPunkteAlt>;
+  EXPECT_TRUE(tells("\n| " + std::to_string(korvin::recordSize<korvin::GeradDatei>()) + " |"));
+  EXPECT_TRUE(tells("\n| " + std::to_string(korvin::recordSize<korvin::GeradDateiVorher>()) + " |"));
+  EXPECT_TRUE(tells("\n| " + std::to_string(korvin::recordSize<korvin::GeradDateiErste>()) + " |"));
+  EXPECT_TRUE(tells("the general part at " + std::to_string(2 * korvin::recordSize<OldAxis>())));
 }
 
 }  // namespace
