@@ -12,7 +12,7 @@ void setBereichHand(PositionsDatei& datei, bool hand) {
 
 bool rangeKey(PositionsDatei& datei, std::string_view taste, int Masssystem) {
   const auto isFor = [&](char axis, std::string_view key) {
-    return taste.size() == key.size() + 1 && taste.front() == axis && taste.substr(1) == key;
+    return taste.starts_with(axis) && taste.substr(1) == key;
   };
   for (AchsenInfo* achse : {&datei.X, &datei.Y}) {
     const char name = achse == &datei.X ? 'X' : 'Y';

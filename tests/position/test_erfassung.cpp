@@ -89,6 +89,14 @@ TEST_F(ErfassungTest, LoadedFileKeepsItsRecordButTakesTheLinkSettings) {
   EXPECT_EQ(world.system.FilterVorgabe, '3');
 }
 
+TEST_F(ErfassungTest, LoadedFileHasNothingDrawnYet) {
+  formpos.bild().X.BereichAlt = 0.1;
+  formpos.bild().Y.BereichAlt = 0.1;
+  task.bildUebernehmen();
+  EXPECT_EQ(formpos.arbeit().X.BereichAlt, 0);
+  EXPECT_EQ(formpos.arbeit().Y.BereichAlt, 0);
+}
+
 TEST_F(ErfassungTest, TitleInAnotherScriptKeepsTheRecordReadable) {
   world.dictionary.texts[5502] = "\u4F4D\u7F6E";
   task.neueMessung();

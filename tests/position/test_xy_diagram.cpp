@@ -100,6 +100,11 @@ TEST_F(XYDiagrammTest, FrameIsDrawnAnewOnlyWhenARangeChanges) {
   EXPECT_TRUE(d.bereicheErmitteln()) << "Y alone";
   EXPECT_EQ(Y().BereichAlt, 0.01);
   EXPECT_FALSE(d.bereicheErmitteln());
+  Y().Offset = -0.009;
+  formpos.statistikNeu();
+  byHand(0.002, 0.005);
+  EXPECT_TRUE(d.bereicheErmitteln()) << "a smaller one";
+  EXPECT_EQ(Y().BereichAlt, 0.005);
 }
 
 TEST_F(XYDiagrammTest, BereichAltZeroOfEitherAxisHasTheFrameDrawnAnew) {

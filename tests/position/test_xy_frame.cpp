@@ -322,6 +322,16 @@ TEST(XYFrame, ASmallPictureLabelsEverySecondThenEveryFourthTick) {
   EXPECT_EQ(ticksOfY(drawnAt(120)), (Texts{"-0.0008", "-0.0004", "0.0000", "+0.0004", "+0.0008"}));
 }
 
+TEST(XYFrame, WithoutRoomForTwoRowsTheTicksStandInTheRowOfTheRanges) {
+  const RecordingSurface surface = drawnAt(240);
+  const std::vector<DrawingOp> texts = surface.all(Kind::text);
+  const auto any = [](const DrawingOp&) { return true; };
+  const DrawingOp* tick = find(texts, "0.0000", [](const auto& op) { return op.points.at(0).x == 0; });
+  const DrawingOp* range = find(texts, "±1um", any);
+  ASSERT_TRUE(tick && range);
+  EXPECT_EQ(boxOf(*tick).bottom, boxOf(*range).bottom);
+}
+
 TEST(XYFrame, RangesAreLabelledEvenWhereNothingElseHasRoom) {
   for (const double size : {75.0, 100.0, 150.0}) {
     const RecordingSurface surface = drawnAt(size);
