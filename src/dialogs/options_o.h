@@ -54,6 +54,8 @@ class OptionsO {
   FeldWerte lesen();
   /// The plan of the measurement in work; empty without one.
   MessplanTexte messplan() const;
+  /// True if the measurement in work has a plan.
+  bool messplanAn() const { return messung_ != nullptr && hatMessplan(messung_->formpos.Info()); }
   bool mitMessung() const { return messung_ != nullptr; }
 
   /// OK: brings the measurement in work, if there is one, to the new values, then stores all settings. The

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyleOption>
+#include <algorithm>
 
 #include "frame/ui/icons.h"
 #include "frame/ui/theme.h"
@@ -67,6 +68,41 @@ void paintCheckMark(QPainter& painter, const QRectF& place, const QColor& colour
   painter.restore();
 }
 
+void paintCheckBox(QPainter& painter, const QStyleOption& option) {
+  const bool enabled = (option.state & QStyle::State_Enabled) != 0;
+  const bool active = (option.state & (QStyle::State_HasFocus | QStyle::State_MouseOver)) != 0;
+  const QRectF frame = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(themeColour(enabled && active ? ThemeColour::accent : ThemeColour::softText));
+  if (!enabled) painter.setPen(themeColour(ThemeColour::line));
+  painter.setBrush(option.palette.color(QPalette::Base));
+  painter.drawRoundedRect(frame, scaled(3), scaled(3));
+  painter.restore();
+  if ((option.state & QStyle::State_On) == 0) return;
+  const double inset = frame.width() * 0.18;
+  paintCheckMark(painter, frame.adjusted(inset, inset, -inset, -inset), option.palette.color(QPalette::Text));
+}
+
+/// A list that is closed: the frame of an entry box, with an arrow at its right.
+void paintComboBox(QPainter& painter, const QStyleOption& option) {
+  const bool active = (option.state & (QStyle::State_HasFocus | QStyle::State_On)) != 0;
+  const QRectF frame = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+  const double radius = scaled(5);
+  const double arrow = scaled(9);
+  const QPointF place(frame.right() - scaled(10) - arrow / 2, frame.center().y());
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(themeColour(active ? ThemeColour::accent : ThemeColour::line));
+  painter.setBrush(option.palette.color(QPalette::Base));
+  painter.drawRoundedRect(frame, radius, radius);
+  painter.setPen(
+      QPen(themeColour(ThemeColour::softText), scaled(2), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.drawPolyline(QPolygonF({place + QPointF(-arrow / 2, -arrow / 4), place + QPointF(0, arrow / 4),
+                                  place + QPointF(arrow / 2, -arrow / 4)}));
+  painter.restore();
+}
+
 }  // namespace
 
 KorvinStyle::KorvinStyle() : QProxyStyle(QStringLiteral("Fusion")) {
@@ -99,9 +135,38 @@ void KorvinStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
   // Qt's own mark has seven pixels on any screen.
   if (element == PE_IndicatorMenuCheckMark) {
     paintCheckMark(*painter, option->rect, option->palette.color(QPalette::Text));
+  } else if (element == PE_IndicatorCheckBox) {
+    paintCheckBox(*painter, *option);
   } else {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
   }
+}
+
+void KorvinStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                     QPainter* painter, const QWidget* widget) const {
+  const auto* comboBox = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+  if (control == CC_ComboBox && comboBox != nullptr && !comboBox->editable) {
+    paintComboBox(*painter, *option);
+  } else {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+  }
+}
+
+QRect KorvinStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                                  const QWidget* widget) const {
+  const QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
+  // The words begin where those of an entry box do.
+  const bool words = control == CC_ComboBox && part == SC_ComboBoxEditField;
+  return words ? rect.adjusted(scaled(5), 0, 0, 0) : rect;
+}
+
+QSize KorvinStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                                    const QWidget* widget) const {
+  const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+  if (type != CT_ComboBox) return size;
+  // As high as an entry box beside it: its padding, frame and the margin of its text.
+  const int height = option->fontMetrics.height() + 2 * (scaled(4) + 3);
+  return {size.width() + scaled(12), std::max(size.height(), height)};
 }
 
 int KorvinStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {

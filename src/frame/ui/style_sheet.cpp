@@ -47,6 +47,11 @@ QProgressBar { border: none; border-radius: $3; background: @line; min-height: $
 QProgressBar::chunk { background: @accentFill; border-radius: $3; }
 QGroupBox { border: 1px solid @line; border-radius: $8; margin-top: $10; padding: $10 $8 $8 $8; background: @card; }
 QGroupBox::title { subcontrol-origin: margin; left: $12; padding: 0 $4; color: @softText; }
+QTabWidget::pane { border: 1px solid @line; border-radius: $8; background: @card; top: -1px; }
+QTabBar::tab { background: transparent; border: none; border-bottom: $3 solid transparent; padding: $7 $14; }
+QTabBar::tab { color: @softText; }
+QTabBar::tab:hover { background: @accentGround; }
+QTabBar::tab:selected { color: palette(window-text); border-bottom-color: @accent; }
 QHeaderView::section { background: @card; border: none; border-bottom: 1px solid @line; padding: $5 $12; }
 QScrollBar:vertical { background: transparent; width: $12; margin: 0; }
 QScrollBar:horizontal { background: transparent; height: $12; margin: 0; }

@@ -21,10 +21,11 @@ class TextEntry : public QLineEdit {
   /// The text without blanks on the right, as UTF-8.
   std::string value() const;
   void setValue(const std::string& utf8);
+  /// Says in the same way that a text from elsewhere does not fit, which was not put here.
+  void refuse();
 
  private:
   class Cp1252Validator;
-  void refuse();
 
   Dictionary& dictionary_;
   QTimer redFrame_;

@@ -1,0 +1,88 @@
+#include "dialogs/ui/field_watch.h"
+
+#include <QApplication>
+#include <QScopedValueRollback>
+#include <QStyle>
+#include <QTimer>
+#include <algorithm>
+
+#include "frame/ui/qt_text.h"
+
+namespace korvin {
+namespace {
+
+void rahmen(QWidget& feld, bool rot) {
+  feld.setProperty("refused", rot);
+  feld.style()->polish(&feld);
+}
+
+}  // namespace
+
+FieldWatch::FieldWatch(Feldpruefer& pruefer, QWidget& dialog)
+    : QObject(&dialog), pruefer_(pruefer), dialog_(dialog) {
+  connect(qApp, &QApplication::focusChanged, this, &FieldWatch::fokusWechsel);
+}
+
+void FieldWatch::add(TextEntry& feld, Hinweis& hinweis, FeldPruefung pruefung) {
+  felder_.push_back({&feld, &hinweis, pruefung});
+  connect(&feld, &QLineEdit::textChanged, this, [this, feld = &feld] { geaendert(*suchen(feld)); });
+}
+
+void FieldWatch::gefuellt() {
+  for (Feld& feld : felder_) feld.gut = feld.feld->value();
+}
+
+bool FieldWatch::allePruefen() {
+  return std::all_of(felder_.begin(), felder_.end(), [this](Feld& feld) {
+    return !feld.feld->isEnabled() || feld.feld->value() == feld.gut || pruefen(feld);
+  });
+}
+
+void FieldWatch::fokusWechsel(QWidget* vorher) {
+  if (gibtZurueck_ || suchen(vorher) == nullptr) return;
+  // From the queue: a message box must not open in the midst of a change of the focus, and where it goes is
+  // known only then.
+  QTimer::singleShot(0, vorher, [this, vorher] {
+    if (verlassen(*vorher)) pruefen(*suchen(vorher));
+  });
+}
+
+bool FieldWatch::verlassen(const QWidget& feld) const {
+  const QWidget* jetzt = QApplication::focusWidget();
+  return jetzt != nullptr && jetzt != &feld && jetzt->window() == &dialog_ && !frei_.contains(jetzt);
+}
+
+bool FieldWatch::pruefen(Feld& feld) {
+  std::string text = feld.feld->value();
+  if (!pruefer_.pruefen(feld.pruefung, text)) {
+    abweisen(feld);
+    return false;
+  }
+  if (text != feld.feld->value()) feld.feld->setValue(text);
+  feld.gut = text;
+  return true;
+}
+
+void FieldWatch::abweisen(const Feld& feld) {
+  // Two boxes that both refuse would else send the focus to and fro.
+  const QScopedValueRollback<bool> nichtPruefen(gibtZurueck_, true);
+  feld.hinweis->zeige(qText(pruefer_.bereichText(feld.pruefung)));
+  rahmen(*feld.feld, true);
+  if (vorholen) vorholen(*feld.feld);
+  feld.feld->setFocus();
+}
+
+void FieldWatch::geaendert(const Feld& feld) {
+  if (!feld.feld->property("refused").toBool()) return;
+  rahmen(*feld.feld, false);
+  // Another part of the dialog may have put words of its own there.
+  if (feld.hinweis->text() == qText(pruefer_.bereichText(feld.pruefung))) feld.hinweis->zeige({});
+}
+
+FieldWatch::Feld* FieldWatch::suchen(const QWidget* feld) {
+  const auto found =
+      std::find_if(felder_.begin(), felder_.end(), [feld](const Feld& each) { return each.feld == feld; });
+  return found != felder_.end() ? &*found : nullptr;
+}
+
+}  // namespace korvin

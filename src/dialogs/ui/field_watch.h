@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QObject>
+#include <QVector>
+#include <functional>
+#include <string>
+
+#include "dialogs/field_check.h"
+#include "dialogs/ui/form_rows.h"
+#include "frame/ui/text_entry.h"
+
+namespace korvin {
+
+/// Watches the checked entry boxes of a dialog. A box that is left for another control of the dialog is
+/// checked; one that fails says why beside it, keeps a red frame and gets the focus back. Leaving the dialog
+/// for another window checks nothing.
+class FieldWatch : public QObject {
+  Q_OBJECT
+
+ public:
+  /// Both outlive it.
+  FieldWatch(Feldpruefer& pruefer, QWidget& dialog);
+
+  /// `hinweis` shows what the box accepts after it has refused.
+  void add(TextEntry& feld, Hinweis& hinweis, FeldPruefung pruefung);
+  /// Going to this control checks nothing: it drops the entry, or checks by itself.
+  void ausnehmen(const QWidget& control) { frei_.push_back(&control); }
+  /// What stands in the boxes now was not entered by the user; until it is changed `allePruefen` asks nothing
+  /// of it.
+  void gefuellt();
+
+  /// Checks every box that can be entered and whose text was changed; false at the first that fails, which
+  /// then has the focus.
+  bool allePruefen();
+
+  /// A box is about to get the focus back: brings the page that it stands on to the front.
+  std::function<void(const QWidget& feld)> vorholen;
+
+ private:
+  struct Feld {
+    TextEntry* feld;
+    Hinweis* hinweis;
+    FeldPruefung pruefung;
+    std::string gut{};  ///< the text that last needed no check or passed it
+  };
+
+  void fokusWechsel(QWidget* vorher);
+  /// True if the focus is with another control of the dialog, one that counts.
+  bool verlassen(const QWidget& feld) const;
+  bool pruefen(Feld& feld);
+  void abweisen(const Feld& feld);
+  void geaendert(const Feld& feld);
+  Feld* suchen(const QWidget* feld);
+
+  Feldpruefer& pruefer_;
+  QWidget& dialog_;
+  QVector<Feld> felder_;
+  QVector<const QWidget*> frei_;
+  bool gibtZurueck_ = false;
+};
+
+}  // namespace korvin
