@@ -42,7 +42,10 @@ Station::Station(const FolderEnvironment& environment, Appearance appearance)
       positionsDateien_({fileSystem_, messages_, messplatz_.meldung, dictionary_, profil_, formpos_}),
       positionStarter_({cycle(), formpos_, positionsErfassung_, positionsDateien_, fileDialog_,
                         [this] { return std::make_unique<QtMSComm>(portFinder()); },
-                        [this] { hilfe_.zeigen(); }}),
+                        [this] { hilfe_.zeigen(); },
+                        [this](QWidget& fenster, const auto& ausserhalb) {
+                          einrichtenPosition(fenster, &offenePosition_, ausserhalb);
+                        }}),
       verteilung_(messplatz_.system.Messart, dictionary_, messages_, messplatz_.meldung),
       programmstart_(messplatz_.system, messplatz_.meldung, settings_, anzeige_, dictionary_, messages_),
       hilfe_((folders_.program / helpFile).string(), [this] { return int{anzeige_.Sprache()}; }, dictionary_,
@@ -51,6 +54,7 @@ Station::Station(const FolderEnvironment& environment, Appearance appearance)
                programmstart_, verteilung_, translations_, hilfe_, folders_.program.string(), appearance}) {
   verteilung_.anmelden(MessartPosition, positionStarter_);
   positionStarter_.setFenster(&window_);
+  window_.grundeinstellungen[MessartPosition] = [this] { einrichtenPosition(window_, nullptr, {}); };
   window_.beiErsterAktivierung = [this] { return kopfsuche_.suchen(window_); };
   window_.linkZeile = [this] { return kopfsuche_.zeile(); };
   window_.beiEntladen = [this] { unload(); };
@@ -75,6 +79,17 @@ bool Station::start() {
   }
   window_.showMaximized();
   return true;
+}
+
+void Station::einrichtenPosition(QWidget& fenster, OffeneMessung* messung,
+                                 const std::function<void(std::function<void()>)>& ausserhalb) {
+  FormOptionsO({{dictionary_, messages_, messplatz_.meldung, profil_, messplatz_.system},
+                clock_,
+                timers_,
+                [this] { hilfe_.zeigen(); },
+                ausserhalb},
+               messung, &fenster)
+      .ausfuehren();
 }
 
 void Station::unload() {

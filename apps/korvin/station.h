@@ -1,7 +1,9 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
+#include "dialogs/ui/form_options_o.h"
 #include "frame/clock.h"
 #include "frame/datei_verteilung.h"
 #include "frame/display_choice.h"
@@ -54,6 +56,9 @@ class Station {
  private:
   ZyklusUmgebung cycle();
   QtMSComm::PortFinder portFinder() const;
+  /// `FormOptionsO` over `fenster`; `messung` and `ausserhalb` if the measuring window asks for it.
+  void einrichtenPosition(QWidget& fenster, OffeneMessung* messung,
+                          const std::function<void(std::function<void()>)>& ausserhalb);
   void unload();
 
   Folders folders_;
@@ -86,6 +91,7 @@ class Station {
   // Measuring kinds.
   FORMPOS formpos_;
   PositionsErfassung positionsErfassung_;
+  OffeneMessung offenePosition_{formpos_, positionsErfassung_};
   PositionsDateien positionsDateien_;
   PositionStarter positionStarter_;
   DateiVerteilung verteilung_;

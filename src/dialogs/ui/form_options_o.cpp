@@ -12,6 +12,7 @@
 #include "frame/montage.h"
 #include "frame/pfade.h"
 #include "frame/ui/icons.h"
+#include "frame/ui/mouse_pointer.h"
 #include "frame/ui/qt_text.h"
 #include "frame/ui/theme.h"
 #include "frame/zahl_text.h"
@@ -65,6 +66,11 @@ FormOptionsO::FormOptionsO(const FormOptionsOUmgebung& umgebung, OffeneMessung* 
 
 QString FormOptionsO::text(std::int16_t nummer) {
   return qText(dictionary().DicText(nummer));
+}
+
+void FormOptionsO::ausfuehren() {
+  const NormalPointerScope zeiger;
+  exec();
 }
 
 // ---- Building ----

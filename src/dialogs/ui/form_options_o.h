@@ -33,6 +33,9 @@ class FormOptionsO : public QDialog {
   /// `messung`: null when the main window opens it.
   FormOptionsO(const FormOptionsOUmgebung& umgebung, OffeneMessung* messung, QWidget* parent = nullptr);
 
+  /// Shows the dialog modally and returns when it is closed.
+  void ausfuehren();
+
  private:
   void aufbauen();
   QWidget* seiteAllgemein();

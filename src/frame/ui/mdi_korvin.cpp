@@ -7,6 +7,7 @@
 #include <QStatusBar>
 #include <QTimer>
 #include <array>
+#include <utility>
 
 #include "frame/messart.h"
 #include "frame/pfade.h"
@@ -52,8 +53,14 @@ QString name(const char16_t* text) {
 }
 
 /// Entries without a window yet.
-constexpr std::array<const char16_t*, 6> entriesToCome = {
-    u"M_GeradheitStatistik", u"M_UmgebungsAnalyse", u"M_File_G", u"M_File_P", u"M_File_R", u"M_File_O"};
+constexpr std::array<const char16_t*, 2> entriesToCome = {u"M_GeradheitStatistik", u"M_UmgebungsAnalyse"};
+
+/// The entries of the default settings and the kinds they belong to.
+constexpr std::array<std::pair<const char16_t*, std::int16_t>, 4> settingsEntries = {
+    {{u"M_File_G", MessartGeradheit},
+     {u"M_File_O", MessartPosition},
+     {u"M_File_P", MessartParallel},
+     {u"M_File_R", MessartRechtwinkel}}};
 
 }  // namespace
 
@@ -126,6 +133,8 @@ void MDIKorvin::baueStatusLeiste() {
 
 void MDIKorvin::sperreFehlendeArten() {
   for (const char16_t* entry : entriesToCome) menu_->setEnabled(name(entry), false);
+  for (const auto& [entry, messart] : settingsEntries)
+    menu_->setEnabled(name(entry), grundeinstellungen.contains(messart));
   for (const KeySpec& spec : keySpecs) {
     const QAction* entry = menu_->action(name(spec.menuName));
     const bool there = spec.messart == noKind ? entry == nullptr || entry->isEnabled()
@@ -190,6 +199,9 @@ void MDIKorvin::menue(const QString& entry, int index) {
     close();
     return;
   }
+  for (const auto& [settings, messart] : settingsEntries) {
+    if (entry == name(settings)) return einrichten(messart);
+  }
   for (const KeySpec& spec : keySpecs) {
     if (entry == name(spec.menuName)) taste(name(spec.key));
   }
@@ -221,6 +233,11 @@ void MDIKorvin::starten(std::int16_t messart) {
   showHourglass();
   u_.verteilung.starten(messart);
   showNormalPointer();
+}
+
+void MDIKorvin::einrichten(std::int16_t messart) {
+  u_.system.Messart = messart;
+  grundeinstellungen.at(messart)();
 }
 
 void MDIKorvin::oeffnen(const std::string& filter) {

@@ -2,6 +2,7 @@
 
 #include <QMainWindow>
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 
@@ -57,6 +58,9 @@ class MDIKorvin : public QMainWindow {
   /// The caption pass: all words anew, in the present language.
   void beschriften();
 
+  /// The dialogs of the default settings by their measuring kinds, to be given before `laden`. The menu entry
+  /// of a kind that has none here comes later.
+  std::map<std::int16_t, std::function<void()>> grundeinstellungen;
   /// Runs once, when the window has come up for the first time. False ends the program.
   std::function<bool()> beiErsterAktivierung;
   /// Tells the state of the link for the status row.
@@ -82,6 +86,7 @@ class MDIKorvin : public QMainWindow {
   void M_MassArt(int index);
   void M_Info();
   void starten(std::int16_t messart);
+  void einrichten(std::int16_t messart);
   void oeffnen(const std::string& filter);
   void statusBeschriften();
 

@@ -26,7 +26,7 @@ constexpr std::int16_t Inch = 1;
 /// The toolbar, in its order; a line without a key is a gap between groups.
 constexpr std::array<TastenZeile, 24> Tasten = {{{"NEU", "ICON1", Kind::push, "Ctrl+N", 2000},
                                                  {"LOESCHEN", "ICON48", Kind::push, "Ctrl+Del", 2038},
-                                                 {"EINRICHTEN", "ICON46", Kind::push, "", 2037, true},
+                                                 {"EINRICHTEN", "ICON46", Kind::push, "", 2037},
                                                  {"LADEN", "ICON3", Kind::push, "Ctrl+O", 2002},
                                                  {"SPEICHERN", "ICON2", Kind::push, "Ctrl+S", 2001},
                                                  {"DRUCKEN", "ICON4", Kind::push, "", 2003, true},
@@ -106,7 +106,7 @@ void FormPosition::menusAnlegen() {
 
   verbindungsMenu();
   menuEintrag(
-      menuAnlegen("M_Extras", 1025), "M_EinrichtInfo", 7189, [] {}, "EINRICHTEN");
+      menuAnlegen("M_Extras", 1025), "M_EinrichtInfo", 7189, [this] { M_EinrichtInfo(); }, "EINRICHTEN");
   menuEintrag(
       menuAnlegen("M_HilfeMenu", 1052), "M_Hilfe", 7043, [this] { drueckeTaste("HILFE"); }, "HILFE");
 }
@@ -237,6 +237,7 @@ void FormPosition::wirdEntladen() {
 void FormPosition::taste(const QString& key, bool gedrueckt) {
   if (key == QLatin1String("NEU")) M_Neu();
   if (key == QLatin1String("LOESCHEN")) M_MessLöschen();
+  if (key == QLatin1String("EINRICHTEN")) M_EinrichtInfo();
   if (key == QLatin1String("LADEN")) M_Oeffnen();
   if (key == QLatin1String("SPEICHERN")) M_Speichern();
   if (key == QLatin1String("NZOOM")) M_xyNumZoom();
@@ -276,6 +277,18 @@ void FormPosition::M_MessLöschen() {
   ausserhalbDesTakts([this] {
     p_.erfassung.M_MessLöschen();
     service().leeren();
+    datenZeigen();
+  });
+}
+
+void FormPosition::M_EinrichtInfo() {
+  ausserhalbDesTakts([this] {
+    // The key of the head may have begun a run since the click.
+    if (!p_.einrichten || zyklus().laeuft()) return;
+    {
+      const TastenSperre sperre(p_.erfassung);
+      p_.einrichten(*this, [this](std::function<void()> befehl) { ausserhalbDesTakts(std::move(befehl)); });
+    }
     datenZeigen();
   });
 }

@@ -15,6 +15,11 @@
 
 namespace korvin {
 
+/// Opens the settings dialog over the window and returns when it is closed. What OK does to the measurement
+/// it runs through the second argument, outside of the ticks.
+using EinrichtenDialog =
+    std::function<void(QWidget& fenster, const std::function<void(std::function<void()>)>& ausserhalb)>;
+
 /// What `FormPosition` works with, beside what every measuring window needs. All outlive it.
 struct PositionUmgebung {
   ZyklusUmgebung zyklus;
@@ -24,6 +29,7 @@ struct PositionUmgebung {
   PositionsDateien& dateien;
   FileDialog& fileDialog;
   std::function<void()> hilfe;  ///< opens the help
+  EinrichtenDialog einrichten{};
 };
 
 /// `FormPosition`: watches one point of the beam over time. Lays out its panels, forwards clicks to the
@@ -62,6 +68,7 @@ class FormPosition : public Messfenster {
   void M_Speichern();
   void M_SpeichernUnter();
   void M_MessLöschen();
+  void M_EinrichtInfo();
   void M_xyNumZoom();
   void offset(bool an);
   void cursor(int schritt);

@@ -19,6 +19,7 @@ struct PositionStart {
   FileDialog& fileDialog;
   std::function<std::unique_ptr<MSComm>()> neuesMSComm;  ///< each window has a serial control of its own
   std::function<void()> hilfe;                           ///< opens the help
+  EinrichtenDialog einrichten{};
 };
 
 /// Position measuring as the main window starts it: with new data or with a loaded file.
