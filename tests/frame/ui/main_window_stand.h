@@ -58,16 +58,26 @@ class MainWindowStand : public ::testing::Test {
   void store(const Einstellung& setting, const std::string& value) { profil.schreiben(setting, value); }
   std::string stored(const Einstellung& setting) { return profil.wert(setting); }
 
-  Startergebnis load() {
+  void create() {
     window = std::make_unique<MDIKorvin>(
         HauptfensterUmgebung{system, meldung, dictionary, profil, messages, fileDialog, anzeige, start,
                              verteilung, translations, hilfe, KORVIN_BIN, Appearance::light});
     window->beiEntladen = [this] { ++unloaded; };
+  }
+  Startergebnis loadWindow() {
     return window->laden([this] { dictionary.DicOeffnen(KORVIN_BIN "/korvin.mdb"); });
+  }
+
+  Startergebnis load() {
+    create();
+    return loadWindow();
   }
 
   void show() {
     ASSERT_EQ(load(), Startergebnis::weiter);
+    bringUp();
+  }
+  void bringUp() {
     window->resize(1024, 768);
     window->show();
     QApplication::setActiveWindow(window.get());

@@ -153,6 +153,19 @@ TEST_F(MDIKorvinTest, KindsToComeAreShownDisabledAndSayWhy) {
   EXPECT_TRUE(messages.shown.empty());
 }
 
+TEST_F(MDIKorvinTest, DefaultSettingsOpenByKind) {
+  create();
+  std::vector<int> opened;
+  window->grundeinstellungen[MessartPosition] = [&] { opened.push_back(system.Messart); };
+  ASSERT_EQ(loadWindow(), Startergebnis::weiter);
+  bringUp();
+  EXPECT_TRUE(action(QStringLiteral("M_File_O"))->isEnabled());
+  EXPECT_EQ(action(QStringLiteral("M_File_O"))->toolTip(), QStringLiteral(" "));
+  EXPECT_FALSE(action(QStringLiteral("M_File_G"))->isEnabled());
+  clickMenu({QStringLiteral("M_Extras"), QStringLiteral("M_IniFile"), QStringLiteral("M_File_O")});
+  EXPECT_EQ(opened, (std::vector<int>{MessartPosition}));
+}
+
 TEST_F(MDIKorvinTest, TileKeyAndMenuStartAPositionMeasurement) {
   show();
   QTest::mouseClick(tile("Position"), Qt::LeftButton);

@@ -34,12 +34,18 @@ class PositionStand : public ::testing::Test {
     ZyklusUmgebung zyklus{world.clock,  world.clock,   world.clock,  world.messages, dictionary(),
                           world.profil, world.meldung, world.korCom, world.answer,   world.system};
     form = std::make_unique<FormPosition>(PositionUmgebung{zyklus, world.head, formpos, erfassung(), dateien,
-                                                           fileDialog, [this] { ++helpOpened; }});
+                                                           fileDialog, [this] { ++helpOpened; },
+                                                           settingsHook()});
     form->resize(1024, 768);
     form->show();
     form->zeigen();
     QApplication::setActiveWindow(form.get());
     settle();
+  }
+  EinrichtenDialog settingsHook() {
+    return [this](QWidget& window, const auto& outsideOfTicks) {
+      if (settings) settings(window, outsideOfTicks);
+    };
   }
   /// Handles what waits in Qt's queue; no time passes.
   static void settle() { QApplication::processEvents(); }
@@ -93,6 +99,7 @@ class PositionStand : public ::testing::Test {
   std::unique_ptr<PositionsErfassung> erfassung_;
   std::unique_ptr<FormPosition> form;
   int helpOpened = 0;
+  EinrichtenDialog settings;  ///< stands in for the settings dialog
 };
 
 }  // namespace korvin::test
