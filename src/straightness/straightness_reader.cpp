@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <span>
 #include <type_traits>
+#include <utility>
 
 #include "straightness/older_forms.h"
 
@@ -34,11 +35,11 @@ bool endlich(const LinienGeometrieMit<N>& linie, std::size_t punkte) {
 template <std::size_t N>
 bool zahlenPassen(const GeradAchseMit<N>& X, const GeradAchseMit<N>& Y, std::int16_t AnzMPs) {
   return Zaehlfeld<N>::isCount(X.Wert.at(0)) && Zaehlfeld<N>::isCount(Y.Wert.at(0)) && AnzMPs >= 0 &&
-         static_cast<std::size_t>(AnzMPs) <= N;
+         std::cmp_less_equal(AnzMPs, N);
 }
 
 bool istPunkt(std::int16_t nummer) {
-  return nummer >= 0 && static_cast<std::size_t>(nummer) <= MaxPunkteG;
+  return nummer >= 0 && std::cmp_less_equal(nummer, MaxPunkteG);
 }
 
 template <std::size_t N, bool MitBaudRate>

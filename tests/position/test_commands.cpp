@@ -9,22 +9,11 @@
 #include "frame/messart.h"
 #include "support/faulty_file_system.h"
 #include "support/recording_view.h"
+#include "support/test_file_info.h"
 #include "support/test_files.h"
 
 namespace korvin {
 namespace {
-
-/// The user at the dialog of file information.
-class TestFileInfo : public DateiInfoDialog {
- public:
-  bool bearbeiten(const DateiKopf& kopf) override {
-    ++asked;
-    if (accepted) kopf.Kommentar = "edited";
-    return accepted;
-  }
-  bool accepted = true;
-  int asked = 0;
-};
 
 /// The commands over a real folder; the file image shows what a save wrote.
 class CommandsTest : public ::testing::Test {
@@ -61,7 +50,7 @@ class CommandsTest : public ::testing::Test {
   PositionsErfassung task{
       {world.clock, world.messages, world.dictionary, world.profil, world.meldung, world.system, formpos}};
   test::TestFileDialog fileDialog;
-  TestFileInfo fileInfo;
+  test::TestFileInfo fileInfo;
   PositionsDateien files{{disk, world.messages, world.meldung, world.dictionary, world.profil, formpos}};
   PositionsBefehle commands{{world.clock, world.messages, fileDialog, fileInfo, world.dictionary,
                              world.profil, world.meldung, world.system, formpos, task, files}};

@@ -13,6 +13,7 @@
 #include "support/child_process.h"
 #include "support/faulty_file_system.h"
 #include "support/json.h"
+#include "support/save_trials.h"
 #include "support/test_clock.h"
 #include "support/test_files.h"
 #include "support/test_ports.h"
@@ -281,25 +282,19 @@ TEST_F(PositionFileTest, EachFailingCallIsToldAndLeavesHeadAndPointsTogether) {
   test::FaultyFileSystem counting;
   measure(40);
   ASSERT_TRUE(files(counting).o_DateiSpeichern(folder.path("count.O")));
-  for (const int number : {ENOSPC, EIO, EACCES}) {
-    for (int at = 1; at <= counting.calls + 5; ++at) {
-      SCOPED_TRACE(testing::Message() << "errno " << number << " at call " << at);
-      const std::string file = folder.path("a.O");
-      measure(3);
-      ASSERT_TRUE(save(file));
-      measure(40);
-      test::FaultyFileSystem faulty;
-      faulty.failAt = at;
-      faulty.number = number;
-      messages.shown.clear();
-      const bool saved = files(faulty).o_DateiSpeichern(file);
-      EXPECT_EQ(saved, messages.shown.empty());
-      EXPECT_EQ(formpos.punkte().X().anzahl(), 40U) << "the measurement in work is unharmed";
-      ASSERT_TRUE(load(file));
-      const auto points = formpos.punkte().X().anzahl();
-      EXPECT_TRUE(points == 40U || (points == 3U && !saved));
-    }
-  }
+  test::withEachCallFailing(counting.calls, [this](test::FaultyFileSystem& faulty) {
+    const std::string file = folder.path("a.O");
+    measure(3);
+    ASSERT_TRUE(save(file));
+    measure(40);
+    messages.shown.clear();
+    const bool saved = files(faulty).o_DateiSpeichern(file);
+    EXPECT_EQ(saved, messages.shown.empty());
+    EXPECT_EQ(formpos.punkte().X().anzahl(), 40U) << "the measurement in work is unharmed";
+    ASSERT_TRUE(load(file));
+    const auto points = formpos.punkte().X().anzahl();
+    EXPECT_TRUE(points == 40U || (points == 3U && !saved));
+  });
 }
 
 TEST_F(PositionFileTest, EachCallThatFailsWhileLoadingIsToldAndLeavesThePresentMeasurement) {
@@ -338,21 +333,13 @@ TEST_F(PositionFileTest, AThousandKillsLeaveHeadAndPointsTogether) {
   const std::string file = folder.path("a.O");
   measure(1);
   ASSERT_TRUE(save(file));
-  for (int round = 0; round < 1000; ++round) {
-    test::KillableChild child([&](const std::function<void()>& beat) {
-      for (int generation = 1;; ++generation) {
-        measure(1 + (round * 31 + generation * 17) % 200);
+  test::killWhileSaving(
+      1000,
+      [&](int generation) {
+        measure(1 + generation % 200);
         save(file);
-        beat();
-      }
-    });
-    ASSERT_TRUE(child.awaitBeats(1));
-    const auto moment = std::chrono::steady_clock::now() + std::chrono::microseconds(round * 7919 % 700);
-    while (std::chrono::steady_clock::now() < moment) {
-    }
-    child.kill();
-    ASSERT_TRUE(load(file)) << "after kill " << round;
-  }
+      },
+      [&] { return load(file); });
 }
 
 // ---- The text copy ----

@@ -9,21 +9,10 @@
 #include "frame/datum_text.h"
 #include "straightness/file_stand.h"
 #include "support/test_clock.h"
+#include "support/test_file_info.h"
 
 namespace korvin {
 namespace {
-
-/// The user at the dialog of file information.
-class TestFileInfo : public DateiInfoDialog {
- public:
-  bool bearbeiten(const DateiKopf& kopf) override {
-    ++asked;
-    if (accepted) kopf.Kommentar = "edited";
-    return accepted;
-  }
-  bool accepted = true;
-  int asked = 0;
-};
 
 /// New, Open and Save on a straightness series over a real folder; the file image shows what a save wrote.
 /// What all kinds share is tested with position.
@@ -46,7 +35,7 @@ class StraightnessCommandsTest : public StraightnessFileStand {
 
   test::TestClock clock;
   test::TestFileDialog fileDialog;
-  TestFileInfo fileInfo;
+  test::TestFileInfo fileInfo;
   test::FaultyFileSystem faulty;
   GeradDateien dateien = files(faulty);
   GeradDaten data{formgera, dateien, profil, system};

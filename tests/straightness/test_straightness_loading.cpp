@@ -297,6 +297,16 @@ const std::vector<BadRecord> numbersAreBad{
     {"last reading", [](GeradDatei& r) { r.Y.Wert.at(6) = Inf; }},
     {"first position", [](GeradDatei& r) { r.Linie.Z.at(1) = NaN; }},
     {"last position", [](GeradDatei& r) { r.Linie.Z.at(6) = -Inf; }},
+    {"position of Y alone",
+     [](GeradDatei& r) {
+       r.Y.Wert.at(0) = 7;
+       r.Linie.Z.at(7) = NaN;
+     }},
+    {"position without a reading",
+     [](GeradDatei& r) {
+       r.Linie.AnzMPs = 7;
+       r.Linie.Z.at(7) = NaN;
+     }},
     {"length", [](GeradDatei& r) { r.Linie.Distanz = NaN; }},
     {"step", [](GeradDatei& r) { r.Linie.ZSchritt = Inf; }},
     {"range", [](GeradDatei& r) { r.X.Bereich = NaN; }},
@@ -396,7 +406,10 @@ TEST_F(StraightnessLoadingTest, EachCallThatFailsIsToldAndLeavesTheImage) {
       faulty.failAt = at;
       const bool loaded = files(faulty).g_DateiLaden(file);
       reached = faulty.calls >= at;
-      if (loaded) continue;
+      if (loaded) {
+        EXPECT_EQ(image().X.Wert.at(1), std::string(name) == "six.G" ? -0.043 : 0.1685);
+        continue;
+      }
       EXPECT_EQ(messages.shown.back().title, "D1100 (g_DateiLaden): " + std::to_string(EIO));
       EXPECT_EQ(toBytes(image()), before);
     }

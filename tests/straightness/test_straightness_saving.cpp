@@ -1,9 +1,9 @@
-#include <cerrno>
 #include <filesystem>
 
 #include "frame/leerwert.h"
 #include "straightness/file_stand.h"
 #include "support/child_process.h"
+#include "support/save_trials.h"
 
 namespace korvin {
 namespace {
@@ -111,6 +111,17 @@ TEST_F(StraightnessSavingTest, TextCopyIsReplacedEachTime) {
   EXPECT_TRUE(copy.ends_with("2\t100.0\t0.0020\t-0.0040\r\n\r\n")) << copy;
 }
 
+TEST_F(StraightnessSavingTest, TextCopyIsInTheSystemOfUnits) {
+  wantTextCopy();
+  measure(2);
+  for (const std::int16_t unit : {std::int16_t{0}, std::int16_t{1}}) {
+    system.Masssystem = unit;
+    ASSERT_TRUE(save(folder.path("a.G")));
+    const std::string heading = unit == 0 ? "\tX[mm]\t" : "\tX[mil]\t";
+    EXPECT_NE(test::readFile(folder.path("a.G$")).find(heading), std::string::npos);
+  }
+}
+
 TEST_F(StraightnessSavingTest, FailedTextCopyMakesTheResultFalseButTheSeriesIsSaved) {
   measure(3);
   wantTextCopy();
@@ -155,26 +166,20 @@ TEST_F(StraightnessSavingTest, EachFailingCallIsToldAndLeavesAWholeFile) {
   test::FaultyFileSystem counting;
   measure(40);
   ASSERT_TRUE(files(counting).g_DateiSpeichern(folder.path("count.G")));
-  for (const int number : {ENOSPC, EIO, EACCES}) {
-    for (int at = 1; at <= counting.calls + 5; ++at) {
-      SCOPED_TRACE(testing::Message() << "errno " << number << " at call " << at);
-      const std::string file = folder.path("a.G");
-      measure(3);
-      ASSERT_TRUE(save(file));
-      measure(40);
-      const auto before = toBytes(series());
-      test::FaultyFileSystem faulty;
-      faulty.failAt = at;
-      faulty.number = number;
-      messages.shown.clear();
-      const bool saved = files(faulty).g_DateiSpeichern(file);
-      EXPECT_EQ(saved, messages.shown.empty());
-      EXPECT_EQ(toBytes(series()), before) << "the series in work is unharmed";
-      ASSERT_TRUE(load(file));
-      const auto points = image().X.Wert.anzahl();
-      EXPECT_TRUE(points == 40U || (points == 3U && !saved));
-    }
-  }
+  test::withEachCallFailing(counting.calls, [this](test::FaultyFileSystem& faulty) {
+    const std::string file = folder.path("a.G");
+    measure(3);
+    ASSERT_TRUE(save(file));
+    measure(40);
+    const auto before = toBytes(series());
+    messages.shown.clear();
+    const bool saved = files(faulty).g_DateiSpeichern(file);
+    EXPECT_EQ(saved, messages.shown.empty());
+    EXPECT_EQ(toBytes(series()), before) << "the series in work is unharmed";
+    ASSERT_TRUE(load(file));
+    const auto points = image().X.Wert.anzahl();
+    EXPECT_TRUE(points == 40U || (points == 3U && !saved));
+  });
 }
 
 TEST_F(StraightnessSavingTest, ShortWritesLeaveNothingOut) {
@@ -198,22 +203,15 @@ TEST_F(StraightnessSavingTest, ManyKillsLeaveAWholeFile) {
   const std::string file = folder.path("a.G");
   measure(2);
   ASSERT_TRUE(save(file));
-  for (int round = 0; round < 200; ++round) {
-    test::KillableChild child([&](const std::function<void()>& beat) {
-      for (int generation = 1;; ++generation) {
-        measure(static_cast<std::int16_t>(2 + (round * 31 + generation * 17) % 200));
+  test::killWhileSaving(
+      200,
+      [&](int generation) {
+        measure(static_cast<std::int16_t>(2 + generation % 200));
         save(file);
-        beat();
-      }
-    });
-    ASSERT_TRUE(child.awaitBeats(1));
-    const auto moment = std::chrono::steady_clock::now() + std::chrono::microseconds(round * 7919 % 700);
-    while (std::chrono::steady_clock::now() < moment) {
-    }
-    child.kill();
-    ASSERT_TRUE(load(file)) << "after kill " << round;
-    EXPECT_EQ(image().Linie.AnzMPs, image().X.Wert.anzahl());
-  }
+      },
+      [&] {
+        return load(file) && image().X.Wert.anzahl() == static_cast<std::size_t>(image().Linie.AnzMPs);
+      });
 }
 
 }  // namespace
