@@ -3,12 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <chrono>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "frame/leerwert.h"
-#include "frame/sqlite_dictionary.h"
 #include "reports/bericht_stand.h"
 #include "support/live_memory.h"
 
@@ -517,6 +516,12 @@ TEST_F(PositionsBerichtTest, ACountBeyondTheStoreIsHeldWithinIt) {
   info().AnzahlMP = -5;
   print(bothTables);
   EXPECT_EQ(rowsOn(1), 0);
+}
+
+TEST_F(PositionsBerichtTest, PointsWithoutACountCannotBePrinted) {
+  points(3);
+  formpos.punkte().X().elements()[0] = 1e6;
+  EXPECT_THROW(print(diagram), std::out_of_range);
 }
 
 // ---- The diagram ----
