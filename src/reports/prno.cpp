@@ -229,8 +229,7 @@ void PRNO::diagrammSeite(Seitenrahmen& rahmen) const {
 }
 
 void PRNO::xyDiagramm(Drucker& drucker) const {
-  PositionsDatei datei = datei_;
-  rahmenVerwerfen(datei);
+  PositionsDatei datei = datei_;  // drawing writes the ranges back
   XYDiagramm diagramm(datei, punkte_, masssystem_);
   diagramm.bereicheErmitteln();
   PageSurface flaeche(drucker, diagrammRechteck, diagrammSchrift);

@@ -274,6 +274,8 @@ TEST_F(PositionsBerichtTest, OnePointHasNoDeviation) {
   EXPECT_EQ(at(1, 116, 72), "x 0.001");
   EXPECT_EQ(at(1, 141, 72), "2s  ?.?");
   EXPECT_EQ(at(1, 166, 72), "R 0.000");
+  EXPECT_EQ(at(1, 116, 79), "x -0.002");
+  EXPECT_EQ(at(1, 141, 79), "2s  ?.?");
 }
 
 // ---- Choices ----
@@ -471,6 +473,21 @@ TEST_F(PositionsBerichtTest, LongTextsShrinkIntoTheirPlace) {
       EXPECT_LE(mark.x2, mark.y < 80 || mark.y > 257 ? 202 : 197.01) << mark.text;
     }
   EXPECT_LT(paper.textBei(1, 38, 72).x2, 114);
+}
+
+TEST_F(PositionsBerichtTest, HugeValuesStayInTheirColumns) {
+  formpos.messungLoeschen();
+  point(1e30, -1e30, 38000.5);
+  info().OffsetAktiv = true;
+  info().OffsetMP = 1;
+  print(bothTables);
+  std::vector<DruckMarke> row;
+  for (const DruckMarke& mark : paper.texte(1))
+    if (mark.y == 94) row.push_back(mark);
+  ASSERT_EQ(row.size(), 6U) << "number, time, two values with their marks";
+  for (std::size_t i = 1; i < row.size(); ++i) EXPECT_GE(row[i].x, row[i - 1].x2 - 1e-6) << row[i].text;
+  EXPECT_NEAR(row[2].x2, 125, 1e-6);
+  EXPECT_NEAR(row[4].x2, 165, 1e-6);
 }
 
 // ---- The report as a whole ----
