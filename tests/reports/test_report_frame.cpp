@@ -48,6 +48,13 @@ TEST_F(ReportFrameTest, EachFurtherHeadBeginsAPage) {
   EXPECT_EQ(paper.textBei(3, 20, 10).text, "KORVIN-D3057:  ");
 }
 
+TEST_F(ReportFrameTest, TheHeadStandsInMillimetresWhateverTheScaleWas) {
+  const SeitenTexte texte = seitenTexte(dictionary, "");
+  paper.setSkala(-1, 1, 1, -1);
+  Seitenrahmen(paper, texte).SeiteKopf();
+  EXPECT_EQ(paper.textBei(1, 20, 10).text, "KORVIN-D3057:  ");
+}
+
 TEST_F(ReportFrameTest, ALongDesignationShrinksToTheRightMargin) {
   const SeitenTexte texte = seitenTexte(dictionary, std::string(75, 'W'));
   Seitenrahmen(paper, texte).SeiteKopf();
