@@ -14,21 +14,21 @@ int fehlernummer(const std::exception& fehler) {
   return vomSystem ? vomSystem->code().value() : 0;
 }
 
-void gescheitert(const std::exception& fehler, const DruckUmgebung& u) {
+}  // namespace
+
+void DruckGescheitert(const std::exception& fehler, const DruckUmgebung& u) {
   u.meldung.MsgTitel = dateiTitel(u.dictionary, "DruckStart", std::to_string(fehlernummer(fehler)));
   u.meldung.MsgText = u.dictionary.DicText(1101) + NeueZeile + fehler.what();
   u.messages.beep();
   u.messages.show(u.meldung, MessageIcon::warning, MessageButtons::ok);
 }
 
-}  // namespace
-
 bool DruckStart(const Bericht& bericht, Drucker& drucker, const DruckUmgebung& umgebung) {
   try {
     bericht.drucken(drucker);
     return true;
   } catch (const std::exception& fehler) {
-    gescheitert(fehler, umgebung);
+    DruckGescheitert(fehler, umgebung);
     return false;
   }
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <exception>
+
 #include "frame/dictionary.h"
 #include "frame/message_port.h"
 #include "reports/bericht.h"
@@ -17,5 +19,8 @@ struct DruckUmgebung {
 /// shown in a message with the system's error number (0 where there is none), and gives false; the print job
 /// is left as it was. `DruckAbgebrochen` passes.
 bool DruckStart(const Bericht& bericht, Drucker& drucker, const DruckUmgebung& umgebung);
+
+/// The same message for what fails outside of the composing: handing pages over, making a file of them.
+void DruckGescheitert(const std::exception& fehler, const DruckUmgebung& umgebung);
 
 }  // namespace korvin

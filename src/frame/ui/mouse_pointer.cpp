@@ -24,4 +24,12 @@ NormalPointerScope::~NormalPointerScope() {
   if (hourglassBefore_) showHourglass();
 }
 
+HourglassScope::HourglassScope() : hourglassBefore_(hourglassShown()) {
+  showHourglass();
+}
+
+HourglassScope::~HourglassScope() {
+  if (!hourglassBefore_) showNormalPointer();
+}
+
 }  // namespace korvin

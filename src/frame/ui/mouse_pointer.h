@@ -20,4 +20,16 @@ class NormalPointerScope {
   bool hourglassBefore_;
 };
 
+/// Shows the hourglass while it lives, then what was shown before.
+class HourglassScope {
+ public:
+  HourglassScope();
+  ~HourglassScope();
+  HourglassScope(const HourglassScope&) = delete;
+  HourglassScope& operator=(const HourglassScope&) = delete;
+
+ private:
+  bool hourglassBefore_;
+};
+
 }  // namespace korvin

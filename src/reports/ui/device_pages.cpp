@@ -2,7 +2,6 @@
 
 #include <QPageLayout>
 #include <QPageSize>
-#include <stdexcept>
 
 #include "reports/ui/page_painter.h"
 
@@ -36,20 +35,20 @@ PaperPlace paperOn(const QPagedPaintDevice& device) {
 
 void DevicePages::begin() {
   layOutPaper(device_);
-  if (!painter_.begin(&device_)) throw std::runtime_error("the printer does not begin");
+  if (!painter_.begin(&device_)) throw DeviceRefused("the printer does not begin");
 }
 
 void DevicePages::add(const PageMarks& page) {
   if (!painter_.isActive()) {
     begin();
   } else if (!device_.newPage()) {
-    throw std::runtime_error("the printer takes no further page");
+    throw DeviceRefused("the printer takes no further page");
   }
   PagePainter(painter_, shaper_, paperOn(device_)).paint(page);
 }
 
 void DevicePages::end() {
-  if (painter_.isActive() && !painter_.end()) throw std::runtime_error("the printer does not end");
+  if (painter_.isActive() && !painter_.end()) throw DeviceRefused("the printer does not end");
 }
 
 }  // namespace korvin

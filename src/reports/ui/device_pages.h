@@ -2,11 +2,17 @@
 
 #include <QPagedPaintDevice>
 #include <QPainter>
+#include <stdexcept>
 
 #include "reports/ui/page_marks.h"
 #include "reports/ui/text_shaper.h"
 
 namespace korvin {
+
+/// The device takes no page, or does not end: the printer is gone, its queue refuses the job.
+struct DeviceRefused : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
 
 /// Puts pages on a printer or into a PDF: A4 upright, millimetres counted from the corner of the paper, also
 /// where the device keeps margins. What lies in a margin that a printer can't reach is lost.
@@ -15,7 +21,7 @@ class DevicePages : public PageSink {
   /// Both outlive it. The device's settings (printer, resolution, title) have to be made before.
   DevicePages(QPagedPaintDevice& device, TextShaper& shaper) : device_(device), shaper_(shaper) {}
 
-  /// Throws `std::runtime_error` if the device takes no page.
+  /// Throws `DeviceRefused`.
   void page(PageMarks&& page) override { add(page); }
   void add(const PageMarks& page);
   void end() override;
