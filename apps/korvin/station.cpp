@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "frame/messart.h"
+#include "frame/pfade.h"
 
 namespace korvin {
 namespace {
@@ -37,15 +38,18 @@ Station::Station(const FolderEnvironment& environment, Appearance appearance)
       MSCommKamera_(portFinder()),
       kopfsuche_({clock_, pump_, profil_, korCom_, MSCommKamera_, KameraAntwort_}, dictionary_, messages_,
                  messplatz_.meldung),
+      ausgabe_(reports()),
       positionsErfassung_(
           {clock_, messages_, dictionary_, profil_, messplatz_.meldung, messplatz_.system, formpos_}),
       positionsDateien_({fileSystem_, messages_, messplatz_.meldung, dictionary_, profil_, formpos_}),
+      positionsProtokoll_({formpos_, messplatz_.system, dictionary_, clock_}, ausgabe_),
       positionStarter_({cycle(), formpos_, positionsErfassung_, positionsDateien_, fileDialog_,
                         [this] { return std::make_unique<QtMSComm>(portFinder()); },
                         [this] { hilfe_.zeigen(); },
                         [this](QWidget& fenster, const auto& ausserhalb) {
                           einrichtenPosition(fenster, &offenePosition_, ausserhalb);
-                        }}),
+                        },
+                        [this](QWidget* fenster) { positionsProtokoll_.drucken(fenster); }}),
       verteilung_(messplatz_.system.Messart, dictionary_, messages_, messplatz_.meldung),
       programmstart_(messplatz_.system, messplatz_.meldung, settings_, anzeige_, dictionary_, messages_),
       hilfe_((folders_.program / helpFile).string(), [this] { return int{anzeige_.Sprache()}; }, dictionary_,
@@ -65,6 +69,19 @@ Station::~Station() = default;
 ZyklusUmgebung Station::cycle() {
   return {clock_,  pump_,          timers_,          messages_, dictionary_, profil_, messplatz_.meldung,
           korCom_, KameraAntwort_, messplatz_.system};
+}
+
+AusgabeUmgebung Station::reports() {
+  return {{clock_, pump_, dictionary_},
+          {messages_, messplatz_.meldung, dictionary_},
+          fileDialog_,
+          fileSystem_,
+          printers_,
+          [this] { return int{anzeige_.Sprache()}; },
+          [this] {
+            return MessOrdner(profil_.wert(einstellung::Hauptfenster::PfadMessFile),
+                              folders_.program.string());
+          }};
 }
 
 QtMSComm::PortFinder Station::portFinder() const {

@@ -32,6 +32,8 @@
 #include "position/formpos.h"
 #include "position/position_file.h"
 #include "position/ui/position_starter.h"
+#include "reports/ui/berichtsausgabe.h"
+#include "reports/ui/positions_protokoll.h"
 
 namespace korvin {
 
@@ -55,6 +57,7 @@ class Station {
 
  private:
   ZyklusUmgebung cycle();
+  AusgabeUmgebung reports();
   QtMSComm::PortFinder portFinder() const;
   /// `FormOptionsO` over `fenster`; `messung` and `ausserhalb` if the measuring window asks for it.
   void einrichtenPosition(QWidget& fenster, OffeneMessung* messung,
@@ -88,11 +91,16 @@ class Station {
   QtMSComm MSCommKamera_;  ///< the main window's own, for the search
   Kopfsuche kopfsuche_;
 
+  // Reports.
+  QtPrinterChoice printers_;
+  Berichtsausgabe ausgabe_;
+
   // Measuring kinds.
   FORMPOS formpos_;
   PositionsErfassung positionsErfassung_;
   OffeneMessung offenePosition_{formpos_, positionsErfassung_};
   PositionsDateien positionsDateien_;
+  PositionsProtokoll positionsProtokoll_;
   PositionStarter positionStarter_;
   DateiVerteilung verteilung_;
 

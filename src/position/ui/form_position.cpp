@@ -29,7 +29,7 @@ constexpr std::array<TastenZeile, 24> Tasten = {{{"NEU", "ICON1", Kind::push, "C
                                                  {"EINRICHTEN", "ICON46", Kind::push, "", 2037},
                                                  {"LADEN", "ICON3", Kind::push, "Ctrl+O", 2002},
                                                  {"SPEICHERN", "ICON2", Kind::push, "Ctrl+S", 2001},
-                                                 {"DRUCKEN", "ICON4", Kind::push, "", 2003, true},
+                                                 {"DRUCKEN", "ICON4", Kind::push, "Ctrl+P", 2003},
                                                  {},
                                                  {"STATISTIK", "ICON5", Kind::check, "", 2009, true},
                                                  {"x", "ICON24", Kind::check, "", 2010, true},
@@ -83,7 +83,7 @@ void FormPosition::menusAnlegen() {
   })->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
   datei->addSeparator();
   menuEintrag(
-      datei, "M_ProtokollDrucken", 7183, [] {}, "DRUCKEN");
+      datei, "M_ProtokollDrucken", 7183, [this] { M_ProtokollDrucken(); }, "DRUCKEN");
   datei->addSeparator();
   menuEintrag(datei, "M_Beenden", 1024, [this] { close(); });
 
@@ -240,6 +240,7 @@ void FormPosition::taste(const QString& key, bool gedrueckt) {
   if (key == QLatin1String("EINRICHTEN")) M_EinrichtInfo();
   if (key == QLatin1String("LADEN")) M_Oeffnen();
   if (key == QLatin1String("SPEICHERN")) M_Speichern();
+  if (key == QLatin1String("DRUCKEN")) M_ProtokollDrucken();
   if (key == QLatin1String("NZOOM")) M_xyNumZoom();
   if (key == QLatin1String("MPL")) cursor(-1);
   if (key == QLatin1String("MPR")) cursor(1);
@@ -290,6 +291,12 @@ void FormPosition::M_EinrichtInfo() {
       p_.einrichten(*this, [this](std::function<void()> befehl) { ausserhalbDesTakts(std::move(befehl)); });
     }
     datenZeigen();
+  });
+}
+
+void FormPosition::M_ProtokollDrucken() {
+  ausserhalbDesTakts([this] {
+    if (p_.protokollDrucken) p_.protokollDrucken(this);
   });
 }
 

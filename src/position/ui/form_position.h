@@ -30,6 +30,7 @@ struct PositionUmgebung {
   FileDialog& fileDialog;
   std::function<void()> hilfe;  ///< opens the help
   EinrichtenDialog einrichten{};
+  std::function<void(QWidget* fenster)> protokollDrucken{};  ///< shows the print dialog over the window
 };
 
 /// `FormPosition`: watches one point of the beam over time. Lays out its panels, forwards clicks to the
@@ -69,6 +70,7 @@ class FormPosition : public Messfenster {
   void M_SpeichernUnter();
   void M_MessLöschen();
   void M_EinrichtInfo();
+  void M_ProtokollDrucken();
   void M_xyNumZoom();
   void offset(bool an);
   void cursor(int schritt);

@@ -20,6 +20,7 @@ struct PositionStart {
   std::function<std::unique_ptr<MSComm>()> neuesMSComm;  ///< each window has a serial control of its own
   std::function<void()> hilfe;                           ///< opens the help
   EinrichtenDialog einrichten{};
+  std::function<void(QWidget* fenster)> protokollDrucken{};  ///< shows the print dialog over the window
 };
 
 /// Position measuring as the main window starts it: with new data or with a loaded file.
