@@ -442,6 +442,44 @@ TEST_F(Data, WindowForALoadedFileKeepsIt) {
   EXPECT_EQ(info().PortNr, 1) << "the link's settings are the present ones";
 }
 
+// ---- Printing ----
+
+TEST_F(Data, KeyMenuAndShortcutPrintTheReport) {
+  std::vector<QWidget*> over;
+  printed = [&over](QWidget* window) { over.push_back(window); };
+  show();
+  click("DRUCKEN");
+  entry("M_ProtokollDrucken")->trigger();
+  type(Qt::Key_P, Qt::ControlModifier);
+  EXPECT_EQ(over, std::vector<QWidget*>(3, form.get()));
+}
+
+TEST_F(Data, PrintingWaitsForTheTelegramUnderWay) {
+  bool done = false;
+  bool during = false;
+  printed = [&done](QWidget*) { done = true; };
+  show();
+  run(0.2);
+  world.head.behaviour = [](char) { return std::string(); };
+  world.clock.after(0.1, [&] {
+    click("DRUCKEN");
+    during = done;
+  });
+  run(3);
+  EXPECT_FALSE(during);
+  EXPECT_TRUE(done);
+}
+
+TEST_F(Data, AClosingWindowPrintsNothing) {
+  bool done = false;
+  printed = [&done](QWidget*) { done = true; };
+  show();
+  form->close();
+  entry("M_ProtokollDrucken")->trigger();
+  run(0.5);
+  EXPECT_FALSE(done);
+}
+
 // ---- Closing ----
 
 TEST_F(Data, ClosingTakesTwoSteps) {

@@ -33,9 +33,9 @@ class PositionStand : public ::testing::Test {
   void show() {
     ZyklusUmgebung zyklus{world.clock,  world.clock,   world.clock,  world.messages, dictionary(),
                           world.profil, world.meldung, world.korCom, world.answer,   world.system};
-    form = std::make_unique<FormPosition>(PositionUmgebung{zyklus, world.head, formpos, erfassung(), dateien,
-                                                           fileDialog, [this] { ++helpOpened; },
-                                                           settingsHook()});
+    form = std::make_unique<FormPosition>(
+        PositionUmgebung{zyklus, world.head, formpos, erfassung(), dateien, fileDialog,
+                         [this] { ++helpOpened; }, settingsHook(), [this](QWidget* over) { printed(over); }});
     form->resize(1024, 768);
     form->show();
     form->zeigen();
@@ -100,6 +100,7 @@ class PositionStand : public ::testing::Test {
   std::unique_ptr<FormPosition> form;
   int helpOpened = 0;
   EinrichtenDialog settings;  ///< stands in for the settings dialog
+  std::function<void(QWidget* over)> printed = [](QWidget*) {};
 };
 
 }  // namespace korvin::test
