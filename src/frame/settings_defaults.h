@@ -90,6 +90,7 @@ inline constexpr Einstellung Distanz{"MessInfo_G", "Distanz", "2500.0"};
 inline constexpr Einstellung SFak{"MessInfo_G", "SFak", "1"};
 inline constexpr Einstellung Filter{"MessInfo_G", "Filter", "2"};
 inline constexpr Einstellung Montage{"MessInfo_G", "Montage", "0"};
+inline constexpr Einstellung BiDi_Messen{"MessInfo_G", "BiDi_Messen", ""};
 inline constexpr Einstellung AutoAdapt{"MessInfo_G", "AutoAdapt", "0"};
 inline constexpr Einstellung Beta5{"MessInfo_G", "Beta5", "-1"};
 inline constexpr Einstellung Beta1{"MessInfo_G", "Beta1", "0"};

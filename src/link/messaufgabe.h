@@ -1,11 +1,20 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
+#include <span>
 #include <string>
+#include <string_view>
 
 #include "link/kamera_antwort.h"
 
 namespace korvin {
+
+/// What the cycle's value colours (white, yellow, red) colour in the four value panels.
+enum class WertFarbe { schrift, grund };
+
+/// Keys of a toolbar.
+using Tasten = std::span<const char* const>;
 
 /// What differs between the measuring windows in the shared cycle, side by side as data.
 ///
@@ -13,25 +22,101 @@ namespace korvin {
 /// `MessfensterAnsicht` in its ui folder, and hand both to a `Messzyklus`.
 struct ZyklusBeschreibung {
   std::int16_t titelText;       ///< messages are titled "KORVIN-" and this text
+  std::string_view abschnitt;   ///< section of the kind's settings
   const char* tasteZurueck;     ///< toolbar key of the cursor, one back
   const char* tasteVor;         ///< one forward
   const char* tasteEinzel;      ///< single measurement
   const char* tasteLaufend;     ///< running measurement
   const char* tasteSchnell;     ///< fast running measurement
   const char* tasteEinrichten;  ///< disabled during a run, with the menu entry `M_EinrichtInfo`
+  Tasten messtasten;            ///< disabled in a single measurement, enabled again by the end of any
+  Tasten gesperrtLaufend;       ///< those of them that a running measurement disables
+  Tasten gesperrtSchnell;       ///< those that a fast one disables
   int pollingMs;                ///< start interval of `tmrPolling`
   int jMs;                      ///< start interval of `tmrJ`
   int keyPressedMs;             ///< start interval of `tmrKeyPressed`
-  bool mAlsLauftelegramm;       ///< an "m" answer in a running measurement is a reading
+  int laufendMs;                ///< `tmrJ` from the start of a running measurement on
+  int schnellMs;                ///< `tmrJ` from the start of a fast one on
+  double pauseNachPunkt;        ///< seconds after a stored single measurement, with events running
+  WertFarbe wertFarbe;          ///< what the value colours colour
+  bool laufFaerbt;           ///< a run turns the values white, its end yellow, with pointer and keys at rest
+  bool kopfImLauf;           ///< a run that starts online shows mounting and filter again
+  bool mAlsLauftelegramm;    ///< an "m" answer in a running measurement is a reading
+  bool tImLauf;              ///< a "T" answer in a running measurement is no surprise
+  bool abgelehntesZeichnen;  ///< a refused reading redraws and marks the data as changed, too
+  bool rtsNachJederAntwort;  ///< RTS rises after an answer of any kind, not after "m" alone
+  bool einzelEndetNachFehler;  ///< a lost link, too, brings pointer and keys of a single measurement to rest
 };
 
 inline constexpr int InfoToggleMs = 2000;     ///< interval of `tmrInfoToggle`
 inline constexpr int LaufKeyPressedMs = 500;  ///< `tmrKeyPressed` from the first run on
-inline constexpr int LaufJMs = 15;            ///< `tmrJ` from the first run on
+inline constexpr int LaufJMs = 15;            ///< `tmrJ` of a run at the common pace
 
-/// The position window's line of that table.
+namespace zyklus {
+inline constexpr std::array<const char*, 4> MesstastenGerad{"XYMP1", "XYMPN", "XYMPNN", "XYMPKMP"};
+inline constexpr std::array<const char*, 2> GesperrtLaufendGerad{"XYMP1", "XYMPKMP"};
+inline constexpr std::array<const char*, 3> GesperrtSchnellGerad{"XYMP1", "XYMPN", "XYMPKMP"};
+}  // namespace zyklus
+
+/// The position window's line of that table. A failed single measurement keeps hourglass and key until the
+/// next one, so that the user sees it.
 inline constexpr ZyklusBeschreibung ZyklusPosition{
-    5502, "MPL", "MPR", "XYMP1", "XYMPN", "XYMPNN", "EINRICHTEN", 31, LaufJMs, LaufKeyPressedMs, true};
+    .titelText = 5502,
+    .abschnitt = "MessInfo_O",
+    .tasteZurueck = "MPL",
+    .tasteVor = "MPR",
+    .tasteEinzel = "XYMP1",
+    .tasteLaufend = "XYMPN",
+    .tasteSchnell = "XYMPNN",
+    .tasteEinrichten = "EINRICHTEN",
+    .messtasten = {},
+    .gesperrtLaufend = {},
+    .gesperrtSchnell = {},
+    .pollingMs = 31,
+    .jMs = LaufJMs,
+    .keyPressedMs = LaufKeyPressedMs,
+    .laufendMs = LaufJMs,
+    .schnellMs = LaufJMs,
+    .pauseNachPunkt = 0,
+    .wertFarbe = WertFarbe::schrift,
+    .laufFaerbt = false,
+    .kopfImLauf = false,
+    .mAlsLauftelegramm = true,
+    .tImLauf = true,
+    .abgelehntesZeichnen = true,
+    .rtsNachJederAntwort = false,
+    .einzelEndetNachFehler = false,
+};
+
+/// The straightness window's. A reading belongs to the current point: a single one is shown for a while
+/// before the window steps on, a running one replaces what the point held.
+inline constexpr ZyklusBeschreibung ZyklusGerad{
+    .titelText = 5500,
+    .abschnitt = "MessInfo_G",
+    .tasteZurueck = "ZL",
+    .tasteVor = "ZR",
+    .tasteEinzel = "XYMP1",
+    .tasteLaufend = "XYMPN",
+    .tasteSchnell = "XYMPNN",
+    .tasteEinrichten = "EINRICHTEN",
+    .messtasten = zyklus::MesstastenGerad,
+    .gesperrtLaufend = zyklus::GesperrtLaufendGerad,
+    .gesperrtSchnell = zyklus::GesperrtSchnellGerad,
+    .pollingMs = 800,
+    .jMs = 10,
+    .keyPressedMs = 1000,
+    .laufendMs = 10,
+    .schnellMs = LaufJMs,
+    .pauseNachPunkt = 1.0,
+    .wertFarbe = WertFarbe::grund,
+    .laufFaerbt = true,
+    .kopfImLauf = true,
+    .mAlsLauftelegramm = false,
+    .tImLauf = false,
+    .abgelehntesZeichnen = false,
+    .rtsNachJederAntwort = true,
+    .einzelEndetNachFehler = true,
+};
 
 /// How a window's record says that the head is reached.
 struct LinkAngaben {
@@ -62,10 +147,17 @@ class Messaufgabe {
   virtual char filter() const = 0;
   virtual void setFilter(char stufe) = 0;
 
+  /// The mounting that the window's picture shows, quarter turns 0 to 3; asked where `kopfImLauf` is set.
+  virtual std::int16_t gezeigteMontage() { return 0; }
+
   /// True while the head's keys are ignored.
   virtual bool tastenGesperrt() const { return false; }
   /// Decimals of the display, for the empty pattern.
   virtual std::int16_t nkStellen() const = 0;
+
+  /// Asked before any measurement: 'M', 'S', 'J' or 'Q' was asked for. False if the task has served the
+  /// request in its own way, by a step to another line for one: then nothing is measured.
+  virtual bool vorMessung(char /*zustand*/) { return true; }
 
   /// A run begins; `sekunden` is the time of day.
   virtual void laufBeginnt(float sekunden) = 0;
@@ -78,6 +170,9 @@ class Messaufgabe {
 
   /// Takes a reading whose intensity is good. Called for single and running measurements.
   virtual void wertUebernehmen(const KameraAntwort& antwort) = 0;
+  /// A single measurement was taken, and `pauseNachPunkt` is over. True if the window has to redraw for what
+  /// was done, such as a step of the cursor.
+  virtual bool nachPunkt() { return false; }
 };
 
 }  // namespace korvin

@@ -28,7 +28,7 @@ class MessfensterAnsicht {
   virtual void zeigeServiceZeile(int index, const std::string& text) = 0;
   /// The body of an answer, for the list of telegrams `LstCamMsg`.
   virtual void zeigeTelegramm(const std::string& rumpf) = 0;
-  /// Text colour of the four value panels.
+  /// Colour of the four value panels: of their text or of their ground, as the kind's description says.
   virtual void setWertFarbe(Farbe farbe) = 0;
   /// Writes `text` into the four value panels, in place of values.
   virtual void zeigeLeereWerte(const std::string& text) = 0;
@@ -36,6 +36,10 @@ class MessfensterAnsicht {
   virtual void zeigeIntensitaet(const std::string& text, Farbe farbe) = 0;
   /// `lblKamera` in simulation; going online leaves the filter's line as it is.
   virtual void zeigeNurSimulation(const std::string& text, Farbe farbe) = 0;
+  /// `ImgMontage`: key of the picture of the mounting.
+  virtual void zeigeMontage(const std::string& bild) = 0;
+  /// `lblKamera` while the head is online.
+  virtual void zeigeKamera(const std::string& text) = 0;
   virtual void zeigeVerbindung(const Verbindungsmarken& marken) = 0;
 
   /// Shows a toolbar key as pressed or released.

@@ -23,10 +23,9 @@ Qualitaet qualitaetPruefen(const KameraAntwort& antwort, double norm, double hal
                            bool imRuhezustand) {
   Qualitaet befund;
   const std::int16_t prozent = antwort.Intensitaet;
-  if (norm < prozent) {
-    befund.neueNorm = prozent;
-    norm = prozent;
-  }
+  // Whether a norm raised by this very reading counts already makes no difference: no reading lies below
+  // itself.
+  if (norm < prozent) befund.neueNorm = prozent;
   const bool imBereich = std::abs(antwort.RohX - RohMitte) / RohProMm <= halbbereich &&
                          std::abs(antwort.RohY - RohMitte) / RohProMm <= halbbereich;
   // Out of range only colours: such a reading is accepted.

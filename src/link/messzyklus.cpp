@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "frame/cp1252.h"
+#include "frame/montage.h"
 #include "frame/number_format.h"
 #include "frame/zahl_text.h"
 #include "link/telegramm.h"
@@ -15,6 +16,7 @@ namespace {
 
 constexpr const char* TextNurSimulation = "Simulation only";
 constexpr double PauseWiederverbinden = 1.0;
+constexpr std::int16_t TextKamera = 3003;
 
 /// The level of a fast run: '5' to '7', from the level that the user has set.
 char schnelleStufe(char vorgabe) {
@@ -82,6 +84,13 @@ void Messzyklus::M_KVNSimulation() {
 
 std::string Messzyklus::titel() {
   return "KORVIN-" + u_.dictionary.DicText(aufgabe_.beschreibung().titelText);
+}
+
+void Messzyklus::kopfZeigen() {
+  const std::string filter = u_.korCom.FilterText(u_.system.FilterVorgabe, u_.dictionary);
+  if (!marken_.online) return;
+  ansicht_.zeigeMontage(std::string(MontageBild(aufgabe_.gezeigteMontage())));
+  ansicht_.zeigeKamera(u_.dictionary.DicText(TextKamera) + ": " + filter);
 }
 
 // ---- Requests from the window ----
@@ -239,6 +248,10 @@ void Messzyklus::tasteAuswerten() {
   }
 }
 
+void Messzyklus::tastenFrei(Tasten tasten, bool frei) {
+  for (const char* taste : tasten) ansicht_.setTasteFrei(taste, frei);
+}
+
 void Messzyklus::statusIcons() {
   if (u_.antwort.Status == 'B') icon(IconBatterie);
   if (u_.antwort.Status == 'S') icon(IconSim);
@@ -246,45 +259,61 @@ void Messzyklus::statusIcons() {
 
 void Messzyklus::zustandAuswerten() {
   if (abgeschlossen()) return;
-  switch (tastenzustand_) {
-    case 'M':
-    case 'S':
-      einzelmessung();
-      break;
-    case 'J':
-      laufStarten(false);
-      break;
-    case 'Q':
-      laufStarten(true);
-      break;
-    default:
-      tmrPolling_->setEnabled(true);
+  const bool verlangt = std::string_view("MSJQ").find(tastenzustand_) != std::string_view::npos;
+  if (!verlangt) {
+    tmrPolling_->setEnabled(true);
+  } else if (!aufgabe_.vorMessung(tastenzustand_)) {
+    tastenzustand_ = 'K';
+    ansicht_.neuZeichnen(false);
+    tmrPolling_->setEnabled(true);
+  } else if (tastenzustand_ == 'J' || tastenzustand_ == 'Q') {
+    laufStarten(tastenzustand_ == 'Q');
+  } else {
+    einzelmessung();
   }
 }
 
+// ---- Single measurements ----
+
 void Messzyklus::einzelmessung() {
-  const char* taste = aufgabe_.beschreibung().tasteEinzel;
+  const ZyklusBeschreibung& b = aufgabe_.beschreibung();
+  einzel_ = true;
   ansicht_.zeigeSanduhr(true);
   aufgabe_.setFilter(u_.system.FilterVorgabe);
-  ansicht_.zeigeTaste(taste, true);
+  ansicht_.zeigeTaste(b.tasteEinzel, true);
+  tastenFrei(b.messtasten, false);
   if (!frage('M', u_.korCom.MesszeitLimit())) {
-    // Hourglass and key stay as they are until the next single measurement ends: the user sees that it
-    // failed.
     verbindungVerloren();
     return;
   }
   if (abgeschlossen()) return;
-  if (u_.antwort.Antwortart == 'm') {
-    uebernehmen();
-    if (control_.DSRHolding()) control_.setRTSEnable(true);
-  } else {
+  einzelAuswerten();
+  // The window may have been closed while the reading was shown.
+  if (abgeschlossen()) return;
+  einzelBeenden();
+  tmrPolling_->setEnabled(true);
+}
+
+void Messzyklus::einzelAuswerten() {
+  const ZyklusBeschreibung& b = aufgabe_.beschreibung();
+  const bool messwert = u_.antwort.Antwortart == 'm';
+  if (!messwert) {
     icon(IconFrage);
+  } else if (uebernehmen()) {
+    pause(u_.clock, u_.pump, b.pauseNachPunkt);
+    if (!schliessen_ && aufgabe_.nachPunkt()) ansicht_.neuZeichnen(false);
   }
+  if ((messwert || b.rtsNachJederAntwort) && control_.DSRHolding()) control_.setRTSEnable(true);
+}
+
+void Messzyklus::einzelBeenden() {
+  const ZyklusBeschreibung& b = aufgabe_.beschreibung();
+  einzel_ = false;
   ansicht_.zeigeSanduhr(false);
-  ansicht_.zeigeTaste(taste, false);
+  ansicht_.zeigeTaste(b.tasteEinzel, false);
+  tastenFrei(b.messtasten, true);
   ansicht_.setWertFarbe(FarbeGelb);
   tastenzustand_ = 'K';
-  tmrPolling_->setEnabled(true);
 }
 
 // ---- Running measurements ----
@@ -292,13 +321,16 @@ void Messzyklus::einzelmessung() {
 void Messzyklus::laufStarten(bool schnell) {
   const ZyklusBeschreibung& b = aufgabe_.beschreibung();
   ansicht_.zeigeTaste(schnell ? b.tasteSchnell : b.tasteLaufend, true);
+  tastenFrei(schnell ? b.gesperrtSchnell : b.gesperrtLaufend, false);
   tastenzustand_ = 'K';
   tmrKeyPressed_->setInterval(LaufKeyPressedMs);
-  tmrJ_->setInterval(LaufJMs);
+  tmrJ_->setInterval(schnell ? b.schnellMs : b.laufendMs);
+  if (b.laufFaerbt) ansicht_.setWertFarbe(FarbeWeiss);
   // The limits stay those of the level that was asked for before: the fast levels have none of their own.
   if (schnell) aufgabe_.setFilter(schnelleStufe(u_.system.FilterVorgabe));
   aufgabe_.laufBeginnt(u_.clock.secondsOfDay());
   ansicht_.setTasteFrei(b.tasteEinrichten, false);
+  if (b.kopfImLauf && marken_.online) kopfZeigen();
   laeuft_ = true;
   tmrPolling_->setEnabled(false);
   tmrJ_->setEnabled(true);
@@ -331,10 +363,11 @@ void Messzyklus::tickJ() {
 }
 
 void Messzyklus::antwortImLauf() {
+  const ZyklusBeschreibung& b = aufgabe_.beschreibung();
   const char art = u_.antwort.Antwortart;
-  if (art == 'j' || (art == 'm' && aufgabe_.beschreibung().mAlsLauftelegramm)) {
+  if (art == 'j' || (art == 'm' && b.mAlsLauftelegramm)) {
     uebernehmen();
-  } else if (art != 'T') {
+  } else if (art != 'T' || !b.tImLauf) {
     icon(IconFrage);
   }
   statusIcons();
@@ -358,12 +391,20 @@ void Messzyklus::laufBeenden() {
   tastenzustand_ = 'K';
   aufgabe_.laufBeendet();
   ansicht_.setTasteFrei(b.tasteEinrichten, true);
+  tastenFrei(b.messtasten, true);
+  if (b.laufFaerbt) laufFaerben();
   tmrPolling_->setEnabled(true);
+}
+
+void Messzyklus::laufFaerben() {
+  ansicht_.setWertFarbe(FarbeGelb);
+  ansicht_.zeigeTaste(aufgabe_.beschreibung().tasteEinzel, false);
+  if (!schliessen_) ansicht_.zeigeSanduhr(false);
 }
 
 // ---- Readings ----
 
-void Messzyklus::uebernehmen() {
+bool Messzyklus::uebernehmen() {
   const double norm = zahlAusText(u_.profil.wert(einstellung::Verbindung::NormInt_Laser));
   const Qualitaet befund =
       qualitaetPruefen(u_.antwort, norm, u_.korCom.SensorHalbbereich(), tastenzustand_ == 'K');
@@ -376,11 +417,12 @@ void Messzyklus::uebernehmen() {
       befund.intensitaetFarbe);
   ansicht_.setWertFarbe(befund.wertFarbe);
   if (befund.ok) aufgabe_.wertUebernehmen(u_.antwort);
-  ansicht_.neuZeichnen(true);
+  if (befund.ok || aufgabe_.beschreibung().abgelehntesZeichnen) ansicht_.neuZeichnen(true);
   if (!befund.ok) {
     icon(IconAbgelehnt);
     ansicht_.zeigeLeereWerte(" " + std::string(LeerMuster(aufgabe_.nkStellen())));
   }
+  return befund.ok;
 }
 
 // ---- A lost link ----
@@ -398,6 +440,7 @@ void Messzyklus::verbindungVerloren() {
     // A second failure on the way changes nothing: the next poll tries again.
     icon(IconFunk);
   }
+  if (einzel_ && aufgabe_.beschreibung().einzelEndetNachFehler && !schliessen_) einzelBeenden();
   tmrPolling_->setEnabled(true);
 }
 

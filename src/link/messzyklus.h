@@ -60,6 +60,10 @@ class Messzyklus {
   bool laeuft() const { return laeuft_; }
   bool imTick() const { return imTick_; }
 
+  /// Shows the mounting and the filter that the user has set, if the head is online. The limits of the
+  /// telegrams become those of that filter, in any case.
+  void kopfZeigen();
+
   /// Ends a running measurement with all that belongs to it; nothing without one.
   void laufBeenden();
 
@@ -93,14 +97,19 @@ class Messzyklus {
   void tasteAuswerten();
   void zustandAuswerten();
   void einzelmessung();
+  void einzelAuswerten();
+  void einzelBeenden();
   void laufStarten(bool schnell);
   void antwortImLauf();
+  void laufFaerben();
   bool laufGehtWeiter(const LaufSchritt& schritt);
   void wartendesTun();
   bool abgeschlossen();
+  void tastenFrei(Tasten tasten, bool frei);
   void statusIcons();
   bool frage(char befehl, double limit);
-  void uebernehmen();
+  /// Quality check of the answer, and the reading to the task if it is good; false if it was refused.
+  bool uebernehmen();
   void icon(const char* schluessel);
   void verbindungVerloren();
   void wiederverbinden();
@@ -120,6 +129,7 @@ class Messzyklus {
   bool schliessen_ = false;
   bool entladen_ = false;
   bool laeuft_ = false;
+  bool einzel_ = false;  ///< pointer and keys are those of a single measurement
   bool imTick_ = false;
   bool infoFrisch_ = false;  ///< the tag of `imgInfo`
   Farbe led_ = FarbeGrau;

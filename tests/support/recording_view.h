@@ -32,6 +32,8 @@ class RecordingView : public MessfensterAnsicht {
     cameraLine = text;
     cameraColour = farbe;
   }
+  void zeigeMontage(const std::string& picture) override { mounting = picture; }
+  void zeigeKamera(const std::string& text) override { cameraLine = text; }
   void zeigeVerbindung(const Verbindungsmarken& marks) override { link = marks; }
   void zeigeTaste(const std::string& key, bool pressed) override { keyPressed[key] = pressed; }
   void setTasteFrei(const std::string& key, bool free) override { keyFree[key] = free; }
@@ -61,6 +63,7 @@ class RecordingView : public MessfensterAnsicht {
   Farbe intensityColour = 0;
   std::string cameraLine;
   Farbe cameraColour = 0;
+  std::string mounting;
   Verbindungsmarken link;
   std::map<std::string, bool> keyPressed;
   std::map<std::string, bool> keyFree;

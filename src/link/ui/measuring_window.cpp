@@ -289,7 +289,8 @@ void Messfenster::zeigeTelegramm(const std::string& rumpf) {
 }
 
 void Messfenster::setWertFarbe(Farbe farbe) {
-  for (ValuePanel* feld : wertfelder) feld->setValueColour(farbe);
+  const bool grund = aufgabe_.beschreibung().wertFarbe == WertFarbe::grund;
+  for (ValuePanel* feld : wertfelder) grund ? feld->setGround(farbe) : feld->setValueColour(farbe);
 }
 
 void Messfenster::zeigeLeereWerte(const std::string& text) {
@@ -302,6 +303,14 @@ void Messfenster::zeigeIntensitaet(const std::string& text, Farbe farbe) {
 
 void Messfenster::zeigeNurSimulation(const std::string& text, Farbe farbe) {
   kopf_->setKamera(qText(text), farbe);
+}
+
+void Messfenster::zeigeMontage(const std::string& bild) {
+  kopf_->setMontage(qText(bild));
+}
+
+void Messfenster::zeigeKamera(const std::string& text) {
+  kopf_->setKamera(qText(text));
 }
 
 void Messfenster::zeigeVerbindung(const Verbindungsmarken& marken) {

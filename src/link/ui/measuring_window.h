@@ -114,6 +114,8 @@ class Messfenster : public QMainWindow, public MessfensterAnsicht {
   void zeigeLeereWerte(const std::string& text) override;
   void zeigeIntensitaet(const std::string& text, Farbe farbe) override;
   void zeigeNurSimulation(const std::string& text, Farbe farbe) override;
+  void zeigeMontage(const std::string& bild) override;
+  void zeigeKamera(const std::string& text) override;
   void zeigeVerbindung(const Verbindungsmarken& marken) override;
   void zeigeTaste(const std::string& taste, bool gedrueckt) override;
   void setTasteFrei(const std::string& taste, bool frei) override;

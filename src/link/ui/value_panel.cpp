@@ -50,6 +50,17 @@ QColor ValuePanel::valueColour() const {
   return palette().color(QPalette::WindowText);
 }
 
+void ValuePanel::setGround(Farbe farbe) {
+  QPalette colours = palette();
+  colours.setColor(QPalette::Window, qColour(farbe));
+  colours.setColor(QPalette::WindowText, panelGround());
+  setPalette(colours);
+}
+
+QColor ValuePanel::ground() const {
+  return palette().color(QPalette::Window);
+}
+
 void ValuePanel::setValue(const QString& value) {
   if (value == text()) return;
   const bool sameLength = value.size() == text().size();

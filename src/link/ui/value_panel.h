@@ -20,6 +20,9 @@ class ValuePanel : public QLabel {
   void setWidestText(const QString& text);
   void setValueColour(Farbe farbe);
   QColor valueColour() const;
+  /// Takes `farbe` as ground, with a dark text on it.
+  void setGround(Farbe farbe);
+  QColor ground() const;
 
   /// Shows `text`, fitted.
   void setValue(const QString& text);

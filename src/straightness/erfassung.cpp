@@ -1,0 +1,93 @@
+#include "straightness/erfassung.h"
+
+#include <string>
+
+#include "frame/cp1252.h"
+#include "frame/datei_kopf.h"
+#include "frame/messordner.h"
+#include "frame/montage.h"
+#include "frame/zahl_text.h"
+#include "link/kor_com.h"
+#include "straightness/auswertung.h"
+#include "straightness/neue_reihe.h"
+
+namespace korvin {
+namespace {
+
+namespace verbindung = einstellung::Verbindung;
+
+constexpr std::int16_t TextMesskopf = 3003;
+
+}  // namespace
+
+// ---- The series of a window ----
+
+void GeradErfassung::ersteAktivierung() {
+  if (info().DateiStatus == DateiNeu) {
+    u_.formgera.reihe() = neueReihe(u_.profil, MessOrdner(u_.profil, u_.system));
+  } else {
+    u_.formgera.bildUebernehmen();
+  }
+  einstellungenLesen();
+}
+
+void GeradErfassung::einstellungenLesen() {
+  GeradInfo& g = info();
+  g.KameraID = zuCp1252(u_.profil.wert(verbindung::KameraID)).value_or("0");
+  g.PortNr = ganzzahlAusText(u_.profil.wert(verbindung::PortNr));
+  g.BaudRate = SettingsAusBaudRate(ganzzahlAusText(u_.profil.wert(verbindung::BaudRate)));
+  // The text names the mounting that the readings are turned by. Words of another script, for which the
+  // record has no room, leave the text of before.
+  const auto kamera =
+      zuCp1252(u_.dictionary.DicText(TextMesskopf) + ": " + MontageText(u_.dictionary, g.Montage));
+  if (kamera) g.KameraText = *kamera;
+  u_.system.FilterVorgabe = filter();
+  richtungLesen();
+}
+
+LinkAngaben GeradErfassung::linkAngaben() const {
+  const GeradInfo& g = info();
+  return {g.PortNr, std::string(g.BaudRate.trimmed()), std::string(g.KameraID.trimmed())};
+}
+
+// ---- Keys of the evaluation ----
+
+void GeradErfassung::ROH() {
+  info().Auswertung = AuswertungROH;
+}
+
+void GeradErfassung::ISO() {
+  info().Auswertung = AuswertungISO;
+}
+
+void GeradErfassung::REF() {
+  info().Auswertung = AuswertungREF;
+}
+
+bool GeradErfassung::REF1() {
+  const std::int16_t punkt = linie().AktMP;
+  const bool davor = punkt < info().Ref2;
+  if (davor) {
+    info().Ref1 = punkt;
+  } else {
+    u_.messages.beep();
+  }
+  return davor;
+}
+
+bool GeradErfassung::REF2() {
+  const std::int16_t punkt = linie().AktMP;
+  const bool dahinter = punkt > info().Ref1;
+  if (dahinter) {
+    info().Ref2 = punkt;
+  } else {
+    u_.messages.beep();
+  }
+  return dahinter;
+}
+
+bool GeradErfassung::referenztastenSichtbar() const {
+  return info().Auswertung == AuswertungREF;
+}
+
+}  // namespace korvin

@@ -1,0 +1,38 @@
+#include "straightness/linien_erfassung.h"
+
+#include "frame/zahl_text.h"
+#include "link/messwert.h"
+#include "straightness/punkt_lage.h"
+
+namespace korvin {
+namespace {
+
+namespace vorgaben = einstellung::FormGeradheit;
+
+}  // namespace
+
+void LinienErfassung::PunktSpeichern(const KameraAntwort& antwort) {
+  LinienGeometrie& line = linie();
+  if (line.AnzMPs < 1) return;
+  PunktWechseln(line, 0);
+  const auto [x, y] = Spiegeln(Montage(), mmAusRoh(antwort.RohX), mmAusRoh(antwort.RohY));
+  punktEintragen(x, y);
+}
+
+bool LinienErfassung::nachPunkt() {
+  PunktWechseln(linie(), richtungVor_ ? 1 : -1);
+  return true;
+}
+
+void LinienErfassung::richtungLesen() {
+  const Einstellung& e = vorgaben::BiDi_Messen;
+  biDiMessen_ = flagAusText(profil_.wert(beschreibung().abschnitt, e.key, e.vorgabe));
+  richtungVor_ = true;
+}
+
+std::int16_t LinienErfassung::gezeigteMontage() {
+  const Einstellung& e = vorgaben::Montage;
+  return ganzzahlAusText(profil_.wert(beschreibung().abschnitt, e.key, e.vorgabe));
+}
+
+}  // namespace korvin

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "frame/profil.h"
+#include "link/messaufgabe.h"
+#include "straightness/record.h"
+
+namespace korvin {
+
+/// Taking points along a line: every reading belongs to the current point and replaces what stood there, and
+/// a single measurement steps on to the next point. Holds no line itself: the kind of measuring hands it the
+/// live one.
+///
+/// How to add a kind: derive from it, give the line and its record through what is left abstract, and name
+/// what differs in a `ZyklusBeschreibung`. `vorMessung` may serve a request in the kind's own way; measuring
+/// with `AutoAdapt` joins there too.
+class LinienErfassung : public Messaufgabe {
+ public:
+  /// `profil` outlives it.
+  explicit LinienErfassung(Profil& profil) : profil_(profil) {}
+
+  // ---- The line ----
+
+  virtual LinienGeometrie& linie() = 0;
+  /// The mounting by which readings are turned.
+  virtual std::int16_t Montage() const = 0;
+  /// True if single measurements are to be adaptive.
+  virtual bool AutoAdapt() const = 0;
+
+  // ---- Taking points ----
+
+  /// Stores the reading of `antwort` at the current point, in mm in every system of units, turned for the
+  /// mounting; the sign of Y stays as the head counts it. A current point that a file brought from outside
+  /// the line is brought onto it first. Nothing on a line without points.
+  void PunktSpeichern(const KameraAntwort& antwort);
+
+  /// Where a single measurement steps: to the next point, or to the one before.
+  bool RichtungVor() const { return richtungVor_; }
+  /// The key "AUTO_MESSRICHTUNG": turns the direction round.
+  void AUTO_MESSRICHTUNG() { richtungVor_ = !richtungVor_; }
+  /// Picture of that key.
+  std::string_view richtungsBild() const { return richtungVor_ ? "ICON91" : "ICON92"; }
+
+  /// Multi-point measuring is running: the head's keys are ignored.
+  bool MehrPunktAktiv() const { return mehrPunktAktiv_; }
+  void setMehrPunktAktiv(bool aktiv) { mehrPunktAktiv_ = aktiv; }
+
+  /// Picture of the key "XYMP1", which tells how it will measure.
+  std::string_view einzelBild() const { return AutoAdapt() ? "ICON85" : "ICON81"; }
+
+  // ---- Settings of the kind ----
+
+  /// Measuring in both directions is wanted: the key "AUTO_MESSRICHTUNG" is there. As read last by
+  /// `richtungLesen`.
+  bool BiDi_Messen() const { return biDiMessen_; }
+  /// Reads `BiDi_Messen` from the settings. The direction is forward again.
+  void richtungLesen();
+  /// The mounting of the settings, which the window's picture shows. The line's own may be another: it holds
+  /// from one new measurement to the next.
+  std::int16_t gezeigteMontage() override;
+
+  // ---- Messaufgabe ----
+
+  bool tastenGesperrt() const override { return mehrPunktAktiv_; }
+  void laufBeginnt(float /*sekunden*/) override {}
+  LaufSchritt laufSchritt() override { return {}; }
+  bool laufFertig() const override { return false; }
+  void laufBeendet() override {}
+  void wertUebernehmen(const KameraAntwort& antwort) override { PunktSpeichern(antwort); }
+  /// Steps on, within the line.
+  bool nachPunkt() override;
+
+ protected:
+  /// Stores a pair in mm at the current point, which lies on the line.
+  virtual void punktEintragen(double X, double Y) = 0;
+  Profil& profil() { return profil_; }
+
+ private:
+  Profil& profil_;
+  bool richtungVor_ = true;
+  bool biDiMessen_ = false;
+  bool mehrPunktAktiv_ = false;
+};
+
+}  // namespace korvin
