@@ -14,7 +14,7 @@ namespace korvin {
 enum class WertFarbe { schrift, grund };
 
 /// Keys of a toolbar.
-using Tasten = std::span<const char* const>;
+using TastenListe = std::span<const char* const>;
 
 /// What differs between the measuring windows in the shared cycle, side by side as data.
 ///
@@ -29,9 +29,9 @@ struct ZyklusBeschreibung {
   const char* tasteLaufend;     ///< running measurement
   const char* tasteSchnell;     ///< fast running measurement
   const char* tasteEinrichten;  ///< disabled during a run, with the menu entry `M_EinrichtInfo`
-  Tasten messtasten;            ///< disabled in a single measurement, enabled again by the end of any
-  Tasten gesperrtLaufend;       ///< those of them that a running measurement disables
-  Tasten gesperrtSchnell;       ///< those that a fast one disables
+  TastenListe messtasten;       ///< disabled in a single measurement, enabled again by the end of any
+  TastenListe gesperrtLaufend;  ///< those of them that a running measurement disables
+  TastenListe gesperrtSchnell;  ///< those that a fast one disables
   int pollingMs;                ///< start interval of `tmrPolling`
   int jMs;                      ///< start interval of `tmrJ`
   int keyPressedMs;             ///< start interval of `tmrKeyPressed`

@@ -248,7 +248,7 @@ void Messzyklus::tasteAuswerten() {
   }
 }
 
-void Messzyklus::tastenFrei(Tasten tasten, bool frei) {
+void Messzyklus::tastenFrei(TastenListe tasten, bool frei) {
   for (const char* taste : tasten) ansicht_.setTasteFrei(taste, frei);
 }
 

@@ -105,7 +105,7 @@ class Messzyklus {
   bool laufGehtWeiter(const LaufSchritt& schritt);
   void wartendesTun();
   bool abgeschlossen();
-  void tastenFrei(Tasten tasten, bool frei);
+  void tastenFrei(TastenListe tasten, bool frei);
   void statusIcons();
   bool frage(char befehl, double limit);
   /// Quality check of the answer, and the reading to the task if it is good; false if it was refused.
