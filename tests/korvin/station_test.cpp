@@ -4,7 +4,10 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
+#include <QDialog>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTimer>
 #include <fstream>
 
@@ -103,6 +106,53 @@ TEST_F(StationTest, SettingsThatCannotBeMadeEndTheProgramWithAMessage) {
   ASSERT_EQ(boxes.size(), 2);
   EXPECT_TRUE(boxes.last().startsWith(QStringLiteral("The settings could not be created")));
   EXPECT_EQ(activations, 0);
+}
+
+/// Waits for the dialog of the settings and closes it by `button`.
+struct SettingsDialog {
+  QTimer look;
+  QString title;
+  bool planOffered = false;
+
+  explicit SettingsDialog(const QString& button) {
+    look.callOnTimeout([this, button] {
+      auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+      if (dialog == nullptr || dialog->objectName() != QLatin1String("FormOptionsO")) return;
+      title = dialog->windowTitle();
+      planOffered = dialog->findChild<QCheckBox*>(QStringLiteral("CheckAutoOn"))->isEnabled();
+      dialog->findChild<QPushButton*>(button)->click();
+    });
+    look.start(0);
+  }
+};
+
+TEST_F(StationTest, TheDefaultSettingsOfPositionOpenFromTheMenu) {
+  ASSERT_TRUE(start());
+  SettingsDialog dialog(QStringLiteral("Commands(0)"));
+  station->window().findChild<QAction*>(QStringLiteral("M_File_O"))->trigger();
+  EXPECT_EQ(dialog.title, QStringLiteral("Settings: Position"));
+  EXPECT_FALSE(dialog.planOffered) << "a plan belongs to a measurement";
+}
+
+TEST_F(StationTest, TheMeasuringWindowOpensThemWithItsPlan) {
+  ASSERT_TRUE(start());
+  SettingsDialog dialog(QStringLiteral("Commands(1)"));
+  QTimer user;
+  user.callOnTimeout([&] {
+    QWidget* window = nullptr;
+    for (QWidget* each : QApplication::topLevelWidgets())
+      if (each->objectName() == QLatin1String("FormPosition") && each->isVisible()) window = each;
+    if (window == nullptr || QApplication::activeModalWidget() != window) return;
+    if (dialog.title.isEmpty()) {
+      window->findChild<QAction*>(QStringLiteral("M_EinrichtInfo"))->trigger();
+    } else {
+      window->close();
+    }
+  });
+  user.start(5);
+  station->window().findChild<QAction*>(QStringLiteral("M_Position"))->trigger();
+  EXPECT_EQ(dialog.title, QStringLiteral("Settings: Position"));
+  EXPECT_TRUE(dialog.planOffered);
 }
 
 }  // namespace
