@@ -161,7 +161,7 @@ AchsenInhalt achsenInhalt(const AchsenQuelle& quelle, const AchsenAnzeigeDaten& 
   inhalt.marken = referenzMarken(quelle);
   inhalt.linien = achsenZusatzlinien(daten, schalter);
   inhalt.kurven.push_back({{daten.kurve.elements(), quelle.linie.Z}});
-  if (quelle.linie.AktMP >= 1)
+  if (quelle.linie.AktMP >= 1 && quelle.linie.AktMP <= quelle.linie.AnzMPs)
     inhalt.cursorZ = quelle.linie.Z.at(static_cast<std::size_t>(quelle.linie.AktMP));
   return inhalt;
 }

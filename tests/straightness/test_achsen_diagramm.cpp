@@ -1,0 +1,295 @@
+#include "straightness/achsen_diagramm.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "straightness/achsen_beschriftung.h"
+#include "straightness/axis_stand.h"
+
+namespace korvin {
+namespace {
+
+using test::DrawingOp;
+using Kind = DrawingOp::Kind;
+using Lines = std::vector<std::string>;
+
+bool contains(const Lines& lines, const std::string& wanted) {
+  return std::find(lines.begin(), lines.end(), wanted) != lines.end();
+}
+
+TEST(AchsenFenster, LeavesRoomRoundThePlot) {
+  AchsenRahmen frame;
+  frame.R = 5;
+  frame.Distanz = 100;
+  EXPECT_EQ(achsenFenster(frame), (DataWindow{-6, 5.3, 104, -6.5}));
+}
+
+TEST(AchsenRahmenZeichnen, DrawsGridPointsAndLabels) {
+  AxisStand axis({0.1, -0.9, 0.5});
+  axis.draw();
+  const Lines drawn = axis.frameSurface.lines();
+  const auto grid = [&](double colour) {
+    const auto all = axis.frameSurface.all(Kind::line);
+    return std::count_if(all.begin(), all.end(), [&](const DrawingOp& op) { return op.colour == colour; });
+  };
+  EXPECT_EQ(grid(0xC0C0C0), 11 + 3);
+  EXPECT_EQ(grid(0x808080), 2);
+  EXPECT_TRUE(contains(drawn, "line (0, 1) (1000, 1) C0C0C0"));
+  EXPECT_TRUE(contains(drawn, "line (0, -1) (1000, -1) C0C0C0"));
+  EXPECT_TRUE(contains(drawn, "line (500, -1) (500, 1) C0C0C0"));
+  EXPECT_TRUE(contains(drawn, "line (1000, -1) (1000, 1) 808080"));
+  EXPECT_TRUE(contains(drawn, "line (0, 0) (1000, 0) 808080"));
+  EXPECT_EQ(axis.frameSurface.texts(),
+            (Lines{"1", "2", "3 [MP]", "+ 0.8", "+ 0.4", "+ 0.0", "- 0.4", "- 0.8", "[mm]"}));
+}
+
+TEST(AchsenRahmenZeichnen, KeepsTheVerticalLinesWithoutAGrid) {
+  AxisStand axis({0.1, -0.9, 0.5});
+  axis.series.Info.Gitter = false;
+  axis.draw();
+  EXPECT_EQ(axis.frameSurface.all(Kind::line).size(), 3U + 2U);
+}
+
+TEST(AchsenRahmenZeichnen, DrawsAnEmptySeries) {
+  AxisStand axis({Leerwert, Leerwert});
+  axis.draw();
+  EXPECT_EQ(axis.data.bereich.bereich, 0.002);
+  EXPECT_TRUE(contains(axis.frameSurface.texts(), "+ 0.0016"));
+  EXPECT_TRUE(axis.content.all(Kind::polyline).empty());
+}
+
+TEST(AchsenRahmenZeichnen, DrawsASeriesWithoutPoints) {
+  AchsenRahmen frame;
+  frame.einheit = "mil";
+  test::RecordingSurface surface;
+  achsenRahmenZeichnen(surface, frame);
+  achsenInhaltZeichnen(surface, frame, {});
+  EXPECT_TRUE(contains(surface.texts(), "[mil]"));
+}
+
+TEST(AchsenRahmenZeichnen, StandsAtTheTrueHeightOfEachLabel) {
+  AxisStand axis({0.1, -0.9, 0.5});
+  axis.draw();
+  for (const DrawingOp& op : axis.frameSurface.all(Kind::text)) {
+    if (op.text == "+ 0.8") {
+      EXPECT_NEAR(op.points[0].y, 0.8, 1e-12);
+    }
+    if (op.text == "- 0.4") {
+      EXPECT_NEAR(op.points[0].y, -0.4, 1e-12);
+    }
+  }
+}
+
+TEST(HoehenText, HasOneDecimalWhereTheStepIsAFifth) {
+  EXPECT_EQ(hoehenText(0.8, 1), "+ 0.8");
+  EXPECT_EQ(hoehenText(0, 1), "+ 0.0");
+  EXPECT_EQ(hoehenText(-1.6, 2), "- 1.6");
+  EXPECT_EQ(hoehenText(0, 2), "+ 0");
+  EXPECT_EQ(hoehenText(-0.00004 * 4, 0.0002), "- 0.00016");
+}
+
+TEST(Schritte, ThinOutLinesAndNumbers) {
+  EXPECT_EQ(linienSchritt(50), 1);
+  EXPECT_EQ(linienSchritt(51), 2);
+  EXPECT_EQ(linienSchritt(100), 2);
+  EXPECT_EQ(linienSchritt(101), 5);
+  EXPECT_EQ(nummernSchritt(20), 1);
+  EXPECT_EQ(nummernSchritt(21), 2);
+  EXPECT_EQ(nummernSchritt(50), 2);
+  EXPECT_EQ(nummernSchritt(51), 5);
+  EXPECT_EQ(nummernSchritt(100), 5);
+  EXPECT_EQ(nummernSchritt(101), 10);
+}
+
+AchsenRahmen frameOf(int points, std::vector<double>& z) {
+  z.assign(static_cast<std::size_t>(points) + 1, 0);
+  for (std::size_t i = 1; i < z.size(); ++i) z[i] = static_cast<double>(i - 1) * 1000 / (points - 1);
+  AchsenRahmen frame;
+  frame.Distanz = 1000;
+  frame.AnzMPs = static_cast<std::int16_t>(points);
+  frame.z = z;
+  return frame;
+}
+
+struct Box {
+  double left, right;
+};
+Box boxOf(test::RecordingSurface& surface, const AchsenText& text) {
+  const double width = surface.textSize(text.text, text.look).width;
+  return {text.ort.x - width / 2, text.ort.x + width / 2};
+}
+
+TEST(PunktNummern, NeverTouchEachOtherOrTheEdge) {
+  for (const double width : {120.0, 300.0, 700.0, 1900.0}) {
+    for (const int points : {2, 3, 6, 20, 21, 50, 51, 100, 101, 201}) {
+      std::vector<double> z;
+      const AchsenRahmen frame = frameOf(points, z);
+      test::RecordingSurface surface(width, 300);
+      surface.setWindow(achsenFenster(frame));
+      const auto numbers = punktNummern(surface, frame);
+      ASSERT_FALSE(numbers.empty());
+      EXPECT_NE(numbers.back().text.find(" [MP]"), std::string::npos);
+      for (std::size_t i = 0; i < numbers.size(); ++i) {
+        const Box box = boxOf(surface, numbers[i]);
+        EXPECT_LE(box.right, achsenFenster(frame).right + 1e-9);
+        if (i > 0) {
+          EXPECT_LT(boxOf(surface, numbers[i - 1]).right, box.left) << points << " at " << width;
+        }
+      }
+    }
+  }
+}
+
+TEST(PunktNummern, StandUnderTheirPointsWhereThereIsRoom) {
+  std::vector<double> z;
+  const AchsenRahmen frame = frameOf(11, z);
+  test::RecordingSurface surface(1900, 300);
+  surface.setWindow(achsenFenster(frame));
+  const auto numbers = punktNummern(surface, frame);
+  ASSERT_EQ(numbers.size(), 11U);
+  for (std::size_t i = 0; i + 1 < numbers.size(); ++i) EXPECT_NEAR(numbers[i].ort.x, z[i + 1], 1e-9);
+}
+
+TEST(Hoehen, ShrinkToTheMarginAsFarAsTheyStayLegible) {
+  std::vector<double> z;
+  const AchsenRahmen frame = frameOf(11, z);
+  const auto sizeAt = [&](double width) {
+    test::RecordingSurface surface(width, 300);
+    surface.setWindow(achsenFenster(frame));
+    return hoehen(surface, frame).front().look.size;
+  };
+  EXPECT_EQ(sizeAt(1900), 1);
+  EXPECT_LT(sizeAt(550), 1);
+  EXPECT_EQ(sizeAt(100), 0.7);
+}
+
+TEST(Auseinander, MovesTextsAsLittleAsNeeded) {
+  EXPECT_EQ(auseinander({0, 5}, 1), (std::vector<double>{0, 5}));
+  EXPECT_EQ(auseinander({5, 0}, 1), (std::vector<double>{5, 0}));
+  EXPECT_EQ(auseinander({0, 0}, 1), (std::vector<double>{-0.5, 0.5}));
+  EXPECT_EQ(auseinander({2, 0, 2.5}, 1), (std::vector<double>{1.75, 0, 2.75}));
+  EXPECT_TRUE(auseinander({}, 1).empty());
+}
+
+TEST(Auseinander, MovesChainsAsAWhole) {
+  const auto placed = auseinander({0, 0.1, 0.2, 1.6}, 1);
+  std::vector<double> sorted = placed;
+  std::sort(sorted.begin(), sorted.end());
+  for (std::size_t i = 1; i < sorted.size(); ++i) EXPECT_GE(sorted[i] - sorted[i - 1], 1 - 1e-12);
+}
+
+TEST(AchsenInhaltZeichnen, DrawsTheCurveRedAndBridgesYellow) {
+  AxisStand axis({0.1, 0.2, Leerwert, 0.4, 0.1});
+  axis.draw();
+  const auto curves = axis.content.all(Kind::polyline);
+  ASSERT_EQ(curves.size(), 3U);
+  EXPECT_EQ(curves[0].colour, 0x0000FF);
+  EXPECT_EQ(curves[0].points, (std::vector<DataPoint>{{0, 0.1}, {250, 0.2}}));
+  EXPECT_EQ(curves[1].colour, 0x00FFFF);
+  EXPECT_EQ(curves[1].points, (std::vector<DataPoint>{{250, 0.2}, {750, 0.4}}));
+  EXPECT_EQ(curves[2].colour, 0x0000FF);
+}
+
+TEST(AchsenInhaltZeichnen, DrawsOneLineThroughAllPointsOfAFullSeries) {
+  AxisStand axis({});
+  axis.series.Linie.AnzMPs = 201;
+  ReiheLeeren(axis.series);
+  for (std::size_t i = 1; i <= 201; ++i) axis.series.X.Wert.at(i) = static_cast<double>(i) * 0.001;
+  axis.series.Info.Auswertung = AuswertungROH;
+  axis.draw();
+  const auto curves = axis.content.all(Kind::polyline);
+  ASSERT_EQ(curves.size(), 1U);
+  EXPECT_EQ(curves[0].points.size(), 201U);
+}
+
+TEST(AchsenInhaltZeichnen, RunsDottedAlongTheEdgeOfARangeByHand) {
+  AxisStand axis({0, 2, 0});
+  axis.series.X.Bereichsart = 1;
+  axis.series.X.Bereich = 1;
+  axis.draw();
+  const auto curves = axis.content.all(Kind::polyline);
+  ASSERT_EQ(curves.size(), 3U);
+  EXPECT_EQ(curves[0].style, LineStyle::solid);
+  EXPECT_EQ(curves[1].style, LineStyle::dotted);
+  EXPECT_EQ(curves[1].points, (std::vector<DataPoint>{{250, 1}, {500, 1}, {750, 1}}));
+  EXPECT_EQ(curves[2].style, LineStyle::solid);
+}
+
+TEST(AchsenInhaltZeichnen, ClipsInTOLBetweenHalfAndWholeTolerance) {
+  AxisStand axis({0, 0.08});
+  axis.series.X.Bereichsart = 2;
+  axis.series.X.Gesamt = 0.1;
+  axis.draw();
+  EXPECT_EQ(axis.data.bereich.bereich, 0.05);
+  EXPECT_EQ(axis.content.all(Kind::polyline).back().style, LineStyle::dotted);
+}
+
+TEST(AchsenInhaltZeichnen, DrawsTheCursorBlackFromEdgeToEdge) {
+  AxisStand axis({0, 0.8});
+  axis.series.Linie.AktMP = 2;
+  axis.draw();
+  EXPECT_TRUE(contains(axis.content.lines(), "line (1000, -1) (1000, 1) 000000"));
+}
+
+TEST(AchsenInhaltZeichnen, DrawsStatisticsWithTheirLetters) {
+  AxisStand axis({0.1, 0.4, -0.3});
+  axis.series.Info.SFak = 1;
+  axis.series.Info.ZeigeMittel = axis.series.Info.ZeigeStreuung = axis.series.Info.ZeigeSpanne = true;
+  axis.draw();
+  EXPECT_EQ(axis.content.texts(), (Lines{"x", "s", "s", "R", "R"}));
+  for (const DrawingOp& op : axis.content.all(Kind::line)) {
+    if (op.style == LineStyle::dashed) {
+      EXPECT_EQ(op.colour, 0x808080);
+      EXPECT_EQ(op.points[0].x, 0);
+      EXPECT_EQ(op.points[1].x, 1000);
+    }
+  }
+}
+
+TEST(AchsenInhaltZeichnen, DrawsTheBandDottedAndItsLetterOnlyInsideTheRange) {
+  for (const auto& [reference, letters] :
+       {std::pair{BezugMinimum, 1}, std::pair{BezugNull, 0}, std::pair{BezugMaximum, 1}}) {
+    AxisStand axis({0.001, 0.006});
+    axis.tolerance(0.03, reference);
+    axis.draw();
+    const auto all = axis.content.all(Kind::line);
+    EXPECT_EQ(std::count_if(all.begin(), all.end(),
+                            [](const DrawingOp& op) { return op.style == LineStyle::dotted; }),
+              2);
+    const Lines texts = axis.content.texts();
+    EXPECT_EQ(std::count(texts.begin(), texts.end(), "t"), letters);
+  }
+}
+
+TEST(AchsenInhaltZeichnen, MarksTheReferencePointsOnTheZeroLine) {
+  AxisStand axis({0.1, 0.5, -0.3});
+  axis.series.Info.Auswertung = AuswertungREF;
+  axis.series.Info.Ref2 = 3;
+  axis.draw();
+  const auto circles = axis.content.all(Kind::circle);
+  ASSERT_EQ(circles.size(), 2U);
+  EXPECT_EQ(circles[0].points[0], (DataPoint{0, 0}));
+  EXPECT_EQ(circles[0].radius, 5);
+  EXPECT_EQ(circles[1].points[0], (DataPoint{1000, 0}));
+  EXPECT_TRUE(contains(axis.content.texts(), "Ref1") && contains(axis.content.texts(), "Ref2"));
+}
+
+TEST(AchsenInhaltZeichnen, KeepsTheMarksInsideThePicture) {
+  AxisStand axis({0.1, 0.5, -0.3});
+  axis.series.Info.Auswertung = AuswertungREF;
+  axis.draw();
+  for (const DrawingOp& op : axis.content.all(Kind::text)) {
+    if (op.text == "Ref1") {
+      EXPECT_EQ(op.horizontal, HorizontalAnchor::left);
+    }
+    if (op.text == "Ref2") {
+      EXPECT_EQ(op.horizontal, HorizontalAnchor::right);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace korvin
