@@ -164,8 +164,10 @@ QSize KorvinStyle::sizeFromContents(ContentsType type, const QStyleOption* optio
                                     const QWidget* widget) const {
   const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
   if (type != CT_ComboBox) return size;
-  // As high as an entry box beside it: its padding, frame and the margin of its text.
-  const int height = option->fontMetrics.height() + 2 * (scaled(4) + 3);
+  // As high as an entry box beside it, which leaves room for a small icon: padding, frame, margin of the
+  // text.
+  const int line = std::max(option->fontMetrics.height(), pixelMetric(PM_SmallIconSize, option, widget) - 2);
+  const int height = line + 2 * (scaled(4) + 2);
   return {size.width() + scaled(12), std::max(size.height(), height)};
 }
 

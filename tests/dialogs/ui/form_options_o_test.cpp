@@ -2,8 +2,10 @@
 
 #include <QInputMethodEvent>
 #include <QToolTip>
+#include <filesystem>
 
 #include "options_o_stand.h"
+#include "support/temp_folder.h"
 
 namespace korvin {
 namespace {
@@ -295,6 +297,22 @@ TEST_F(FormOptionsOTest, AFolderIsChosenByBrowsing) {
   QTimer::singleShot(0, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
   click(find<QPushButton>("cmdDurchsuchen"));
   EXPECT_EQ(text(3), KORVIN_SOURCE "/texts/") << "given up";
+}
+
+TEST_F(FormOptionsOTest, AChosenFolderThatFilesCannotNameIsRefusedVisibly) {
+  const test::TempFolder place;
+  const std::filesystem::path folder = place.path() / "\u6e2c";
+  std::filesystem::create_directory(folder);
+  showFromMainWindow();
+  enter(3, "/before/");
+  QTimer::singleShot(0, [&] {
+    auto* entry = QApplication::activeModalWidget()->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    entry->setText(qText(folder.string()));
+    QTest::keyClick(entry, Qt::Key_Return);
+  });
+  click(find<QPushButton>("cmdDurchsuchen"));
+  EXPECT_EQ(text(3), "/before/");
+  EXPECT_TRUE(box(3)->property("refused").toBool());
 }
 
 // ---- Mounting ----

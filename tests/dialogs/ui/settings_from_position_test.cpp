@@ -58,8 +58,12 @@ class SettingsFromPosition : public test::PositionStand {
   void choose(const char* list, int index) {
     dialog->findChild<QComboBox*>(QString::fromUtf8(list))->setCurrentIndex(index);
   }
+  void clickCommand(int index) {
+    QTest::mouseClick(dialog->findChild<QPushButton*>(QStringLiteral("Commands(%1)").arg(index)),
+                      Qt::LeftButton);
+  }
   void ok() {
-    QTest::mouseClick(dialog->findChild<QPushButton*>(QStringLiteral("Commands(0)")), Qt::LeftButton);
+    clickCommand(0);
     settle();
     EXPECT_FALSE(dialog->isVisible());
   }
@@ -197,6 +201,42 @@ TEST_F(SettingsFromPosition, DecimalsAreShownAtOnce) {
   EXPECT_EQ(text("PanelxWertNormal"), "0.10");
 }
 
+TEST_F(SettingsFromPosition, OkDuringATelegramWaitsForItsEnd) {
+  show();
+  takePoints(1);
+  world.messages.answers = {MessageAnswer::yes};
+  inSettings([this] {
+    choose("cmbFilter", 4);
+    world.head.delay = 0.2;
+    world.clock.after(0.1, [this] {
+      clickCommand(0);
+      EXPECT_TRUE(dialog->isVisible());
+      EXPECT_EQ(info().AnzahlMP, 1);
+    });
+    run(0.5);
+    EXPECT_FALSE(dialog->isVisible());
+  });
+  EXPECT_EQ(info().AnzahlMP, 0);
+}
+
+TEST_F(SettingsFromPosition, CancelWhileOkIsWaitingWins) {
+  show();
+  takePoints(1);
+  inSettings([this] {
+    choose("cmbFilter", 4);
+    world.head.delay = 0.2;
+    world.clock.after(0.1, [this] {
+      clickCommand(0);
+      clickCommand(1);
+    });
+    run(0.5);
+  });
+  run(1);
+  EXPECT_EQ(info().AnzahlMP, 1);
+  EXPECT_EQ(world.system.FilterVorgabe, '2');
+  EXPECT_TRUE(world.messages.shown.empty());
+}
+
 TEST_F(SettingsFromPosition, CancelLeavesTheMeasurementAsItIs) {
   show();
   takePoints(1);
@@ -205,7 +245,7 @@ TEST_F(SettingsFromPosition, CancelLeavesTheMeasurementAsItIs) {
     switchPlanOn();
     enter(7, "3");
     choose("cmbFilter", 4);
-    QTest::mouseClick(dialog->findChild<QPushButton*>(QStringLiteral("Commands(1)")), Qt::LeftButton);
+    clickCommand(1);
   });
   EXPECT_EQ(toBytes(info()), before);
 }

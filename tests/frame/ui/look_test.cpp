@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QFileInfo>
 #include <QGlyphRun>
 #include <QImage>
@@ -214,6 +216,55 @@ TEST(SwedishTranslatorTest, GivesItsWordsAndNothingForOthers) {
   const SwedishTranslator swedish;
   EXPECT_EQ(swedish.translate("QPlatformTheme", "Cancel", nullptr, -1), QStringLiteral("Avbryt"));
   EXPECT_TRUE(swedish.translate("QPlatformTheme", "Elephant", nullptr, -1).isNull());
+}
+
+/// What `widget` looks like at rest on the ground of a card.
+QImage picture(QWidget& widget) {
+  widget.ensurePolished();
+  widget.resize(widget.sizeHint());
+  QPalette card = widget.palette();
+  card.setColor(QPalette::Window, themeColour(ThemeColour::card));
+  widget.setPalette(card);
+  return widget.grab().toImage();
+}
+
+TEST(ControlLookTest, AClosedListIsAsHighAsAnEntryBox) {
+  for (const double scale : {0.9, 1.0, 1.5, 2.0}) {
+    applyTheme(Appearance::light, scale, 0);
+    QLineEdit entry;
+    QComboBox list;
+    list.addItem(QStringLiteral("0.000"));
+    for (QWidget* each : {static_cast<QWidget*>(&entry), static_cast<QWidget*>(&list)})
+      each->ensurePolished();
+    EXPECT_NEAR(list.sizeHint().height(), entry.sizeHint().height(), 1) << scale;
+  }
+  applyTheme(Appearance::light, 0.9, 0);
+}
+
+TEST(ControlLookTest, AClosedListShowsItsArrow) {
+  QComboBox list;
+  list.addItem(QStringLiteral("0.000"));
+  EXPECT_TRUE(has(picture(list), themeColour(ThemeColour::softText).rgb()));
+}
+
+TEST(ControlLookTest, ACheckBoxHasAFrameOnAnyGround) {
+  QCheckBox off;
+  QCheckBox on;
+  on.setChecked(true);
+  const auto frame = [] { return themeColour(ThemeColour::softText); };
+  // Its lines are smoothed; somewhere along them the full colour stands.
+  const auto shows = [](const QImage& image, const QColor& colour) {
+    for (int x = 0; x < image.width(); ++x) {
+      const QColor there = image.pixelColor(x, image.height() / 2);
+      if (std::abs(there.lightness() - colour.lightness()) < 12) return true;
+    }
+    return false;
+  };
+  EXPECT_TRUE(shows(picture(off), frame()));
+  EXPECT_NE(picture(off), picture(on));
+  const DarkLook dark;
+  EXPECT_TRUE(shows(picture(off), frame()));
+  EXPECT_NE(picture(off), picture(on));
 }
 
 }  // namespace
