@@ -101,6 +101,7 @@ TEST_F(PlanInDialog, TwoBadTimesDoNotSendTheFocusToAndFro) {
   enter(12, "soon");
   box(10)->setText(QStringLiteral("never"));
   click(box(10));
+  for (int i = 0; i < 10; ++i) settle();
   EXPECT_TRUE(box(12)->hasFocus());
   EXPECT_EQ(messages.shown.size(), 1U);
 }
