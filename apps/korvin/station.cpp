@@ -43,7 +43,7 @@ Station::Station(const FolderEnvironment& environment, Appearance appearance)
           {clock_, messages_, dictionary_, profil_, messplatz_.meldung, messplatz_.system, formpos_}),
       positionsDateien_({fileSystem_, messages_, messplatz_.meldung, dictionary_, profil_, formpos_}),
       positionsProtokoll_({formpos_, messplatz_.system, dictionary_, clock_}, ausgabe_),
-      positionStarter_({cycle(), formpos_, positionsErfassung_, positionsDateien_, fileDialog_,
+      positionStarter_({cycle(), formpos_, positionsErfassung_, positionsDateien_, fileDialog_, fileSystem_,
                         [this] { return std::make_unique<QtMSComm>(portFinder()); },
                         [this] { hilfe_.zeigen(); },
                         [this](QWidget& fenster, const auto& ausserhalb) {

@@ -58,6 +58,7 @@ QByteArray diagramSvg(const DiagramPainter& draw, const QSize& size, const QStri
   QSvgGenerator generator;
   generator.setOutputDevice(&buffer);
   generator.setTitle(title.toHtmlEscaped());  // it writes the title as it stands
+  generator.setResolution(96);                // one unit is a pixel of a browser
   generator.setSize(size);
   generator.setViewBox(QRect(QPoint(), size));
   QPainter painter(&generator);

@@ -4,10 +4,13 @@
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QMenuBar>
+#include <QSplitter>
 #include <array>
 #include <utility>
 
+#include "frame/cp1252.h"
 #include "frame/montage.h"
+#include "frame/pfade.h"
 #include "frame/ui/qt_text.h"
 #include "frame/ui/theme.h"
 #include "frame/zahl_text.h"
@@ -31,16 +34,16 @@ constexpr std::array<TastenZeile, 24> Tasten = {{{"NEU", "ICON1", Kind::push, "C
                                                  {"SPEICHERN", "ICON2", Kind::push, "Ctrl+S", 2001},
                                                  {"DRUCKEN", "ICON4", Kind::push, "Ctrl+P", 2003},
                                                  {},
-                                                 {"STATISTIK", "ICON5", Kind::check, "", 2009, true},
-                                                 {"x", "ICON24", Kind::check, "", 2010, true},
-                                                 {"s", "ICON25", Kind::check, "", 2011, true},
-                                                 {"R", "ICON26", Kind::check, "", 2012, true},
+                                                 {"STATISTIK", "ICON5", Kind::check, "F2", 2009},
+                                                 {"x", "ICON24", Kind::check, "", 2010},
+                                                 {"s", "ICON25", Kind::check, "", 2011},
+                                                 {"R", "ICON26", Kind::check, "", 2012},
                                                  {"NZOOM", "ICON23", Kind::check, "F8", 2039},
-                                                 {"XYAMPL", "ICON6", Kind::check, "", 3061, true},
+                                                 {"XYAMPL", "ICON6", Kind::check, "F3", 3061},
                                                  {},
                                                  {"MPL", "ICON10", Kind::push, "Left", 2019},
                                                  {"MPR", "ICON9", Kind::push, "Right", 7170},
-                                                 {"ALLE", "ICONALLE", Kind::check, "", 7171, true},
+                                                 {"ALLE", "ICONALLE", Kind::check, "F4", 7171},
                                                  {"OFFSET", "ICONOFFSET", Kind::check, "F9", 7172},
                                                  {},
                                                  {"XYMP1", "ICON81", Kind::check, "F5", 7173},
@@ -102,7 +105,15 @@ void FormPosition::menusAnlegen() {
   M_xyNumZoom_ = menuEintrag(
       ansicht, "M_xyNumZoom", 7191, [this] { M_xyNumZoom(); }, "NZOOM");
   M_xyNumZoom_->setCheckable(true);
-  kommtSpaeter(menuEintrag(ansicht, "M_Gitter", 7192, [] {}));
+  M_Gitter_ = menuEintrag(ansicht, "M_Gitter", 7192, [this] { M_Gitter(); });
+  M_Gitter_->setCheckable(true);
+  M_Gitter_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_G));
+  ansicht->addSeparator();
+  QAction* liste = menuEintrag(ansicht, "M_PunktListe", 7370, [] {});
+  liste->setCheckable(true);
+  liste->setChecked(true);
+  liste->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_L));
+  connect(liste, &QAction::toggled, this, [this](bool an) { liste_->setVisible(an); });
 
   verbindungsMenu();
   menuEintrag(
@@ -112,21 +123,40 @@ void FormPosition::menusAnlegen() {
 }
 
 void FormPosition::layoutAnlegen() {
+  const auto gewaehlt = [this](int nummer) { cursor(nummer - Info().MPAktuell); };
+  bild_ = new DiagramArea(p_.formpos, p_.zyklus.system, bildAblage(), mitte());
+  bild_->onChosen = gewaehlt;
   liste_ = new PointList(punkte_, mitte());
-  liste_->onChosen = [this](int nummer) { cursor(nummer - Info().MPAktuell); };
-  zoom_ = new PositionZoom(mitte());
-  flaeche_ = new QStackedWidget(mitte());
-  flaeche_->addWidget(liste_);
-  flaeche_->addWidget(zoom_);
+  liste_->onChosen = gewaehlt;
   panels_ = new PositionPanels(&kopf(), mitte());
-  wertfelder = panels_->werte() + zoom_->werte();
+  wertfelder = panels_->werte() + bild_->werte();
+  tasten().setPressed(QStringLiteral("STATISTIK"), true);
 
+  auto* spalte = new QSplitter(Qt::Vertical, mitte());
+  spalte->setChildrenCollapsible(false);
+  spalte->setHandleWidth(scaled(5));
+  spalte->addWidget(panels_);
+  spalte->addWidget(liste_);
+  spalte->setStretchFactor(0, 3);
+  spalte->setStretchFactor(1, 2);
   auto* reihe = new QHBoxLayout(mitte());
   reihe->setContentsMargins(0, 0, 0, 0);
   reihe->setSpacing(scaled(10));
-  reihe->addWidget(flaeche_, 58);
-  reihe->addWidget(panels_, 42);
+  reihe->addWidget(bild_, 58);
+  reihe->addWidget(spalte, 42);
   liste_->setFocus();
+}
+
+PictureDesk FormPosition::bildAblage() {
+  const auto datei = [this] { return pfadTeilen(vonCp1252(Info().DateiName.trimmed())); };
+  PictureDesk ablage{p_.fileDialog, p_.zyklus.messages, dictionary(), p_.fileSystem, {}, {}};
+  ablage.folder = [datei] { return datei().ordner; };
+  ablage.name = [datei] {
+    const std::string name = datei().name;
+    // A measurement without a file has the mask of its kind for a name.
+    return name.empty() || name.front() == '*' ? std::string("XY") : name.substr(0, name.rfind('.'));
+  };
+  return ablage;
 }
 
 void FormPosition::beschriften() {
@@ -138,8 +168,8 @@ void FormPosition::beschriften() {
   liste_->setEmptyText(dicText(7155));
   liste_->setAccessibleName(dicText(7154));
   panels_->setTexte(dictionary(), einheit);
-  zoom_->setEinheit(einheit);
-  tasten().setWords(QStringLiteral("XYAMPL"), QStringLiteral("XY-") + dicText(3061) + spaeterHinweis());
+  bild_->setTexte(dictionary(), einheit);
+  tasten().setWords(QStringLiteral("XYAMPL"), QStringLiteral("XY-") + dicText(3061));
 }
 
 // ---- Showing ----
@@ -159,10 +189,12 @@ void FormPosition::datenZeigen() {
   tasten().setPressed(QStringLiteral("x"), static_cast<bool>(info.ZeigeMittel));
   tasten().setPressed(QStringLiteral("s"), static_cast<bool>(info.ZeigeStreuung));
   tasten().setPressed(QStringLiteral("R"), static_cast<bool>(info.ZeigeSpanne));
+  M_Gitter_->setChecked(static_cast<bool>(info.Gitter));
   numZoomZeigen();
   titelZeigen();
   werteAnpassen();
   liste_->reload();
+  bild_->zeigeNeu(positionsTexte(p_.formpos));
   neuZeichnen(false);
 }
 
@@ -190,7 +222,7 @@ void FormPosition::neuZeichnen(bool geaendert) {
   if (geaendert) Info().Geaendert = true;
   const PositionsTexte texte = positionsTexte(p_.formpos);
   panels_->zeigeWerte(texte);
-  zoom_->zeige(texte);
+  bild_->zeige(texte);
   liste_->follow();
   statusZeigen(texte);
 }
@@ -219,7 +251,7 @@ void FormPosition::numZoomZeigen() {
   const auto an = static_cast<bool>(p_.formpos.arbeit().X.NumZoom);
   tasten().setPressed(QStringLiteral("NZOOM"), an);
   M_xyNumZoom_->setChecked(an);
-  flaeche_->setCurrentWidget(an ? static_cast<QWidget*>(zoom_) : liste_);
+  bild_->setNumZoom(an);
 }
 
 // ---- Closing ----
@@ -241,7 +273,13 @@ void FormPosition::taste(const QString& key, bool gedrueckt) {
   if (key == QLatin1String("LADEN")) M_Oeffnen();
   if (key == QLatin1String("SPEICHERN")) M_Speichern();
   if (key == QLatin1String("DRUCKEN")) M_ProtokollDrucken();
+  if (key == QLatin1String("STATISTIK")) bild_->setStatistik(gedrueckt);
+  if (key == QLatin1String("x")) schalter(Info().ZeigeMittel, gedrueckt);
+  if (key == QLatin1String("s")) schalter(Info().ZeigeStreuung, gedrueckt);
+  if (key == QLatin1String("R")) schalter(Info().ZeigeSpanne, gedrueckt);
   if (key == QLatin1String("NZOOM")) M_xyNumZoom();
+  if (key == QLatin1String("XYAMPL")) bild_->setBereichsleiste(gedrueckt);
+  if (key == QLatin1String("ALLE")) schalter(Info().NurAktuell, !gedrueckt);
   if (key == QLatin1String("MPL")) cursor(-1);
   if (key == QLatin1String("MPR")) cursor(1);
   if (key == QLatin1String("OFFSET")) offset(gedrueckt);
@@ -306,6 +344,17 @@ void FormPosition::M_xyNumZoom() {
   arbeit.X.NumZoom = an;
   arbeit.Y.NumZoom = an;
   numZoomZeigen();
+}
+
+void FormPosition::M_Gitter() {
+  gitterUmschalten(p_.formpos.arbeit());
+  M_Gitter_->setChecked(static_cast<bool>(Info().Gitter));
+  neuZeichnen(false);
+}
+
+void FormPosition::schalter(Flagge& flagge, bool an) {
+  flagge = an;
+  neuZeichnen(false);
 }
 
 void FormPosition::offset(bool an) {

@@ -1,14 +1,15 @@
 #pragma once
 
-#include <QStackedWidget>
 #include <functional>
 #include <memory>
 
 #include "frame/file_dialog.h"
+#include "frame/file_system.h"
 #include "link/ui/measuring_window.h"
 #include "position/commands.h"
 #include "position/erfassung.h"
 #include "position/formpos.h"
+#include "position/ui/diagram_area.h"
 #include "position/ui/form_datei_info.h"
 #include "position/ui/point_list.h"
 #include "position/ui/position_panels.h"
@@ -28,6 +29,7 @@ struct PositionUmgebung {
   PositionsErfassung& erfassung;
   PositionsDateien& dateien;
   FileDialog& fileDialog;
+  FileSystem& fileSystem;       ///< takes the pictures that are saved
   std::function<void()> hilfe;  ///< opens the help
   EinrichtenDialog einrichten{};
   std::function<void(QWidget* fenster)> protokollDrucken{};  ///< shows the print dialog over the window
@@ -52,6 +54,7 @@ class FormPosition : public Messfenster {
 
  private:
   void layoutAnlegen();
+  PictureDesk bildAblage();
   void menusAnlegen();
   void beschriften();
 
@@ -72,6 +75,8 @@ class FormPosition : public Messfenster {
   void M_EinrichtInfo();
   void M_ProtokollDrucken();
   void M_xyNumZoom();
+  void M_Gitter();
+  void schalter(Flagge& flagge, bool an);
   void offset(bool an);
   void cursor(int schritt);
 
@@ -82,10 +87,10 @@ class FormPosition : public Messfenster {
   PositionsBefehle befehle_;
   PointListModel punkte_;
   PointList* liste_ = nullptr;
+  DiagramArea* bild_ = nullptr;
   PositionPanels* panels_ = nullptr;
-  PositionZoom* zoom_ = nullptr;
-  QStackedWidget* flaeche_ = nullptr;
   QAction* M_xyNumZoom_ = nullptr;
+  QAction* M_Gitter_ = nullptr;
   std::unique_ptr<Timer> TimerUhr_;
   bool Anzeige_ = false;
 };

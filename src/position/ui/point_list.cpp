@@ -18,6 +18,7 @@ namespace {
 
 constexpr double rowLines = 1.35;  ///< height of a row in lines of text
 constexpr int rowsWanted = 12;
+constexpr int rowsAtLeast = 1;
 /// Left and right of the words, in headings (by the style sheet) and cells alike.
 constexpr double cellEdge = 12;
 /// The widest text of each column.
@@ -160,7 +161,8 @@ void PointList::fitColumns() {
 QSize PointList::minimumSizeHint() const {
   int width = verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
   for (int column = 0; column < PointListModel::ColumnCount; ++column) width += columnWidthOf(column);
-  return {width, verticalHeader()->defaultSectionSize() * 5};
+  return {width,
+          horizontalHeader()->sizeHint().height() + verticalHeader()->defaultSectionSize() * rowsAtLeast};
 }
 
 QSize PointList::sizeHint() const {

@@ -62,7 +62,7 @@ PositionPanels::PositionPanels(HeadPanel* kopf, QWidget* parent)
       uhr_(new CaptionedField(QStringLiteral("lblUhr"), QStringLiteral("PanelZeit(2)"), this)) {
   auto* felder = new QGridLayout;
   felder->setHorizontalSpacing(scaled(16));
-  felder->setVerticalSpacing(scaled(10));
+  felder->setVerticalSpacing(scaled(8));
   felder->addWidget(messPunkt_, 0, 0);
   felder->addWidget(gesamt_, 0, 1, 1, 2);
   felder->addWidget(offset_, 1, 0, 1, 3);
@@ -74,13 +74,12 @@ PositionPanels::PositionPanels(HeadPanel* kopf, QWidget* parent)
   for (int column = 0; column < 3; ++column) felder->setColumnStretch(column, 1);
 
   auto* spalte = new QVBoxLayout(this);
-  spalte->setContentsMargins(scaled(16), scaled(12), scaled(16), scaled(12));
-  spalte->setSpacing(scaled(10));
+  spalte->setContentsMargins(scaled(16), scaled(8), scaled(16), scaled(8));
+  spalte->setSpacing(scaled(6));
   spalte->addWidget(wertZeile(x_, axisLabel("X", this), einheitX_), 3);
   spalte->addWidget(wertZeile(y_, axisLabel("Y", this), einheitY_), 3);
   spalte->addWidget(line(this));
   spalte->addLayout(felder);
-  spalte->addStretch(1);
   spalte->addWidget(line(this));
   spalte->addWidget(kopf);
   zeigeUhr({});

@@ -47,7 +47,7 @@ class PositionPanels : public DarkPanel {
   CaptionedField* uhr_;
 };
 
-/// The large numbers that stand in place of the point list: `PanelXWertZoom`, `PanelYWertZoom`, and `pnlXY`
+/// The large numbers that stand in place of the diagram: `PanelXWertZoom`, `PanelYWertZoom`, and `pnlXY`
 /// with the unit.
 class PositionZoom : public DarkPanel {
   Q_OBJECT

@@ -14,7 +14,7 @@ void PositionStarter::zeigen(std::int16_t DateiStatus) {
   s_.formpos.Info().DateiStatus = DateiStatus;
   const std::unique_ptr<MSComm> MSCommKamera = s_.neuesMSComm();
   FormPosition fenster({s_.zyklus, *MSCommKamera, s_.formpos, s_.erfassung, s_.dateien, s_.fileDialog,
-                        s_.hilfe, s_.einrichten, s_.protokollDrucken},
+                        s_.fileSystem, s_.hilfe, s_.einrichten, s_.protokollDrucken},
                        fenster_);
   fenster.ausfuehren();
 }

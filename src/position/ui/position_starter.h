@@ -17,6 +17,7 @@ struct PositionStart {
   PositionsErfassung& erfassung;
   PositionsDateien& dateien;
   FileDialog& fileDialog;
+  FileSystem& fileSystem;
   std::function<std::unique_ptr<MSComm>()> neuesMSComm;  ///< each window has a serial control of its own
   std::function<void()> hilfe;                           ///< opens the help
   EinrichtenDialog einrichten{};

@@ -130,21 +130,34 @@ TEST_F(Data, SelectionOfSeveralRowsOutlivesNewPoints) {
   EXPECT_EQ(list().selectionModel()->selectedRows().size(), 3);
 }
 
-TEST_F(Data, NumbersZoomReplacesTheListAndIsKeptInTheRecord) {
+TEST_F(Data, NumbersZoomReplacesTheDiagramAndIsKeptInTheRecord) {
   show();
-  EXPECT_TRUE(shown("PointList"));
+  EXPECT_TRUE(shown("PictureXYDiagramm"));
   EXPECT_FALSE(shown("PanelXWertZoom"));
   click("NZOOM");
   EXPECT_TRUE(pressed("NZOOM"));
   EXPECT_TRUE(entry("M_xyNumZoom")->isChecked());
-  EXPECT_FALSE(shown("PointList"));
+  EXPECT_FALSE(shown("PictureXYDiagramm"));
+  EXPECT_TRUE(shown("PointList"));
   EXPECT_TRUE(shown("pnlXY"));
   EXPECT_EQ(text("pnlXY"), "[mm]");
   EXPECT_TRUE(formpos.arbeit().X.NumZoom);
   EXPECT_TRUE(formpos.arbeit().Y.NumZoom);
   entry("M_xyNumZoom")->trigger();
   EXPECT_FALSE(pressed("NZOOM"));
+  EXPECT_TRUE(shown("PictureXYDiagramm"));
+}
+
+TEST_F(Data, ListCanBeHiddenAndShownByItsEntry) {
+  show();
+  EXPECT_TRUE(entry("M_PunktListe")->isChecked());
+  type(Qt::Key_L, Qt::ControlModifier);
+  EXPECT_FALSE(shown("PointList"));
+  EXPECT_FALSE(entry("M_PunktListe")->isChecked());
+  takePoints(2);
+  entry("M_PunktListe")->trigger();
   EXPECT_TRUE(shown("PointList"));
+  EXPECT_EQ(list().model()->rowCount(), 2);
 }
 
 TEST_F(Data, DeletingEmptiesAllAndReleasesTheOffset) {
@@ -584,7 +597,7 @@ TEST_F(Data, ExecutedWindowReturnsWhenItIsClosedAndCanBeDeletedThen) {
   ZyklusUmgebung zyklus{world.clock,  world.clock,   world.clock,  world.messages, dictionary(),
                         world.profil, world.meldung, world.korCom, world.answer,   world.system};
   form = std::make_unique<FormPosition>(
-      PositionUmgebung{zyklus, world.head, formpos, erfassung(), dateien, fileDialog, {}});
+      PositionUmgebung{zyklus, world.head, formpos, erfassung(), dateien, fileDialog, fileSystem, {}});
   QTimer::singleShot(0, [this] { form->close(); });
   QTimer::singleShot(0, [this] { world.clock.advance(1); });
   form->ausfuehren();

@@ -38,6 +38,7 @@ class Words : public test::PositionStand, public ::testing::WithParamInterface<i
     click("XYMP1");
     run(0.2);
     click("OFFSET");
+    for (const char* each : {"x", "s", "R", "XYAMPL"}) click(each);
     QTest::mouseDClick(label("lblMSCommInput(0)"), Qt::LeftButton);
     click("XYMPN");
     run(0.5);

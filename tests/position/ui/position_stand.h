@@ -34,7 +34,7 @@ class PositionStand : public ::testing::Test {
     ZyklusUmgebung zyklus{world.clock,  world.clock,   world.clock,  world.messages, dictionary(),
                           world.profil, world.meldung, world.korCom, world.answer,   world.system};
     form = std::make_unique<FormPosition>(
-        PositionUmgebung{zyklus, world.head, formpos, erfassung(), dateien, fileDialog,
+        PositionUmgebung{zyklus, world.head, formpos, erfassung(), dateien, fileDialog, fileSystem,
                          [this] { ++helpOpened; }, settingsHook(), [this](QWidget* over) { printed(over); }});
     form->resize(1024, 768);
     form->show();

@@ -15,6 +15,7 @@ class Starter : public test::PositionStand {
                             erfassung(),
                             dateien,
                             fileDialog,
+                            fileSystem,
                             [this] {
                               auto control = std::make_unique<test::ScriptedHead>(world.clock);
                               controls.push_back(control.get());
