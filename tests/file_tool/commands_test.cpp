@@ -190,6 +190,13 @@ TEST_F(FileTool, SeveralFilesAreAListAndABadOneIsLeftOut) {
   EXPECT_EQ(run.errors, "korvin-file: " + folder.path("none.O") + ": no such file\n");
 }
 
+TEST_F(FileTool, FieldThatIsNoNumberIsNull) {
+  ASSERT_EQ(run({"show", "--json", test::dataFile("bad/odd-mean-nan.O").string()}), 0);
+  EXPECT_EQ(run.output.find("nan,"), std::string::npos);
+  const Json fields = test::parseJson(run.output)["fields"];
+  EXPECT_TRUE(fields["X.Mittel"].kind == Json::Kind::null || fields["Y.Mittel"].kind == Json::Kind::null);
+}
+
 TEST_F(FileTool, TextsOfRubbishStayJson) {
   ASSERT_EQ(run({"show", "--json", test::dataFile("bad/odd-texts-binary.O").string()}), 0);
   for (const char c : run.output) EXPECT_TRUE(c == '\n' || static_cast<unsigned char>(c) >= 0x20);
