@@ -63,8 +63,7 @@ void PagePainter::setPen(const PageMark& mark, Qt::PenCapStyle cap) {
 void PagePainter::paintText(const PageMarks& page, const PageMark& mark) {
   const PageFont& font = page.fonts.at(mark.font);
   if (penWidth_ < 0 || mark.colour != penColour_) setPen(mark, Qt::FlatCap);
-  const QPointF origin(units(mark.x1), units(mark.y1 + shaper_.ascent(font)));
-  for (const QGlyphRun& run : shaper_.shape(page.text(mark), font).runs) painter_.drawGlyphRun(origin, run);
+  shaper_.paint(painter_, mark.x1, mark.y1, page.text(mark), font);
 }
 
 void PagePainter::paintLine(const PageMark& mark) {

@@ -81,7 +81,7 @@ void QtDrucker::addMark(PageMark::Kind kind, double x1, double y1, double x2, do
 }
 
 void QtDrucker::drucke(std::string_view text) {
-  const double width = shaper_.shape(text, schrift_).width;
+  const double width = shaper_.width(text, schrift_);
   const double end = x_ + width;
   const std::size_t before = marks_.marks.size();
   addMark(PageMark::Kind::text, x_, y_, end, y_, farbe_);
@@ -110,7 +110,7 @@ void QtDrucker::flaeche(double x1, double y1, double x2, double y2, Farbe farbe)
 }
 
 double QtDrucker::textBreite(std::string_view text) {
-  return shaper_.shape(text, schrift_).width * std::abs(skalaX_.unitsPerMm);
+  return shaper_.width(text, schrift_) * std::abs(skalaX_.unitsPerMm);
 }
 
 double QtDrucker::textHoehe(std::string_view /*text*/) {

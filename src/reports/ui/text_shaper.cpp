@@ -14,7 +14,10 @@ namespace korvin {
 namespace {
 
 /// More than a page holds, so that what was measured for a page is still there when it is painted.
-constexpr std::size_t mostShaped = 4096;
+constexpr std::size_t mostWords = 1024;
+/// Texts that are made to fit their room can have any size.
+constexpr std::size_t mostFaces = 64;
+constexpr std::string_view figureSigns = "0123456789+-.,:;/ !?()[]=";
 constexpr double unitsPerPoint = 100;
 
 QFont layoutFont(const PageFont& asked, int language) {
@@ -37,7 +40,9 @@ QString oneLine(std::string_view utf8) {
   return text;
 }
 
-ShapedText shapedLine(const QString& text, const QFont& font) {
+/// A line of text as Qt's text engine lays it out: its width in layout units, its glyphs from the left end of
+/// the base line on.
+std::pair<double, QList<QGlyphRun>> laidOut(const QString& text, const QFont& font) {
   QTextLayout layout(text, font);
   QTextOption option;
   option.setWrapMode(QTextOption::NoWrap);
@@ -49,7 +54,7 @@ ShapedText shapedLine(const QString& text, const QFont& font) {
   layout.endLayout();
   if (!line.isValid()) return {};
   line.setPosition(QPointF(0, -line.ascent()));
-  return {line.naturalTextWidth() / layoutUnitsPerMm, line.glyphRuns()};
+  return {line.naturalTextWidth(), line.glyphRuns()};
 }
 
 }  // namespace
@@ -65,27 +70,77 @@ QStringList paperFamilies(const std::string& name, int language) {
   return families;
 }
 
+// ---- Fonts ----
+
+TextShaper::Face TextShaper::made(const PageFont& font) const {
+  Face face;
+  face.asked = font;
+  face.font = layoutFont(font, language_);
+  face.raw = QRawFont::fromFont(face.font);
+  const QFontMetricsF metrics(face.font);
+  face.ascent = metrics.ascent() / layoutUnitsPerMm;
+  face.height = metrics.height() / layoutUnitsPerMm;
+  for (const char sign : figureSigns) {
+    const QList<quint32> glyphs = face.raw.glyphIndexesForString(QString(QLatin1Char(sign)));
+    const QList<QPointF> advances = face.raw.advancesForGlyphIndexes(glyphs, QRawFont::UseDesignMetrics);
+    face.figures.at(static_cast<std::size_t>(sign)) = {glyphs.value(0), advances.value(0).x()};
+  }
+  return face;
+}
+
 TextShaper::Face& TextShaper::face(const PageFont& font) {
   const auto found =
       std::find_if(faces_.begin(), faces_.end(), [&font](const Face& face) { return face.asked == font; });
   if (found != faces_.end()) return *found;
-  Face made;
-  made.asked = font;
-  made.font = layoutFont(font, language_);
-  const QFontMetricsF metrics(made.font);
-  made.ascent = metrics.ascent() / layoutUnitsPerMm;
-  made.height = metrics.height() / layoutUnitsPerMm;
-  faces_.push_back(std::move(made));
-  return faces_.back();
+  if (faces_.size() >= mostFaces) faces_.clear();
+  return faces_.emplace_back(made(font));
 }
 
-const ShapedText& TextShaper::shape(std::string_view utf8, const PageFont& font) {
-  Face& its = face(font);
+// ---- Laying out ----
+
+bool TextShaper::Face::layOutFigures(std::string_view text, std::vector<quint32>& glyphs,
+                                     std::vector<QPointF>& places, double& end) const {
+  glyphs.clear();
+  places.clear();
+  end = 0;
+  for (const char sign : text) {
+    const auto code = static_cast<unsigned char>(sign);
+    if (code >= figures.size() || figures[code].glyph == 0) return false;
+    glyphs.push_back(figures[code].glyph);
+    places.emplace_back(end, 0);
+    end += figures[code].advance;
+  }
+  return true;
+}
+
+const TextShaper::Words& TextShaper::words(std::string_view utf8, Face& face) {
   key_.assign(utf8);
-  const auto found = its.shaped.find(key_);
-  if (found != its.shaped.end()) return found->second;
-  if (its.shaped.size() >= mostShaped) its.shaped.clear();
-  return its.shaped.emplace(key_, shapedLine(oneLine(utf8), its.font)).first->second;
+  if (const auto found = face.words.find(key_); found != face.words.end()) return found->second;
+  if (face.words.size() >= mostWords) face.words.clear();
+  auto [width, runs] = laidOut(oneLine(utf8), face.font);
+  return face.words.emplace(key_, Words{width / layoutUnitsPerMm, std::move(runs)}).first->second;
+}
+
+double TextShaper::width(std::string_view utf8, const PageFont& font) {
+  Face& its = face(font);
+  double end = 0;
+  if (its.layOutFigures(utf8, glyphs_, places_, end)) return end / layoutUnitsPerMm;
+  return words(utf8, its).width;
+}
+
+void TextShaper::paint(QPainter& painter, double x, double y, std::string_view utf8, const PageFont& font) {
+  Face& its = face(font);
+  const QPointF origin(x * layoutUnitsPerMm, (y + its.ascent) * layoutUnitsPerMm);
+  double end = 0;
+  if (!its.layOutFigures(utf8, glyphs_, places_, end)) {
+    for (const QGlyphRun& run : words(utf8, its).runs) painter.drawGlyphRun(origin, run);
+    return;
+  }
+  if (glyphs_.empty()) return;
+  QGlyphRun run;
+  run.setRawFont(its.raw);
+  run.setRawData(glyphs_.data(), places_.data(), static_cast<int>(glyphs_.size()));
+  painter.drawGlyphRun(origin, run);
 }
 
 }  // namespace korvin

@@ -116,6 +116,25 @@ TEST_F(QtDruckerTest, WidthsAreThoseOfTheFontInUnitsOfTheScale) {
   EXPECT_NEAR(drucker.textBreite("0"), 5 * figure, 10 * hair);
 }
 
+TEST_F(QtDruckerTest, FiguresAlignInColumns) {
+  drucker.setSchrift("ARIAL");
+  EXPECT_NEAR(drucker.textBreite("11.1"), drucker.textBreite("88.8"), hair);
+  EXPECT_NEAR(drucker.textBreite("-1.23") + drucker.textBreite(" !"), drucker.textBreite("-1.23 !"), hair);
+}
+
+TEST_F(QtDruckerTest, TextsOfAnySizeAreMeasuredHoweverManySizesThereAre) {
+  drucker.setSchrift("ARIAL");
+  drucker.setSchriftGroesse(9);
+  const double before = drucker.textBreite("Messwert 1");
+  for (int i = 1; i < 200; ++i) {
+    drucker.setSchriftGroesse(i * 0.05);
+    EXPECT_GT(drucker.textBreite("Messwert 1"), 0);
+    EXPECT_NEAR(drucker.textBreite("00"), i * 0.05 * 25.4 / 72 * 2 * 1139 / 2048, hair);
+  }
+  drucker.setSchriftGroesse(9);
+  EXPECT_EQ(drucker.textBreite("Messwert 1"), before);
+}
+
 TEST_F(QtDruckerTest, HeightIsTheFontsWhateverTheSigns) {
   drucker.setSchrift("ARIAL");
   drucker.setSchriftGroesse(9);
