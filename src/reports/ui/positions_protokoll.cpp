@@ -6,6 +6,18 @@
 
 namespace korvin {
 
+namespace {
+
+/// The path in the record; a measurement that has no file yet has its folder only.
+std::string dateiName(const PositionsInfo& info) {
+  constexpr std::string_view ohneDatei = "*.O";
+  std::string name = vonCp1252(info.DateiName.trimmed());
+  if (name.ends_with(ohneDatei)) name.resize(name.size() - ohneDatei.size());
+  return name;
+}
+
+}  // namespace
+
 DruckInfoFelder PositionsProtokoll::felder() {
   PositionsInfo& info = u_.formpos.Info();
   return {info.Bezeichnung,
@@ -14,7 +26,7 @@ DruckInfoFelder PositionsProtokoll::felder() {
           info.Geaendert,
           {std::ref(info.CheckXYDiagramm)},
           {std::ref(info.CheckXTabelle), std::ref(info.CheckYTabelle)},
-          vonCp1252(info.DateiName.trimmed())};
+          dateiName(info)};
 }
 
 Bericht PositionsProtokoll::bericht() const {
