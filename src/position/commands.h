@@ -11,7 +11,7 @@
 
 namespace korvin {
 
-/// Position measurements, as the commands see them.
+/// Position measurements, as the commands of their window see them.
 class PositionsDaten : public Messdaten {
  public:
   PositionsDaten(FORMPOS& formpos, PositionsErfassung& erfassung, PositionsDateien& dateien)
@@ -29,32 +29,6 @@ class PositionsDaten : public Messdaten {
   FORMPOS& formpos_;
   PositionsErfassung& erfassung_;
   PositionsDateien& dateien_;
-};
-
-/// What the commands of the position window work with. All outlive it.
-struct BefehlUmgebung {
-  const Clock& clock;
-  MessagePort& messages;
-  FileDialog& fileDialog;
-  DateiInfoDialog& dateiInfo;
-  Dictionary& dictionary;
-  Profil& profil;
-  Meldung& meldung;
-  Systemwerte& system;
-  FORMPOS& formpos;
-  PositionsErfassung& erfassung;
-  PositionsDateien& dateien;
-};
-
-/// The commands of `FormPosition`. The data come first among the bases: the commands hold on to them.
-class PositionsBefehle : private PositionsDaten, public DateiBefehle {
- public:
-  explicit PositionsBefehle(const BefehlUmgebung& u)
-      : PositionsDaten(u.formpos, u.erfassung, u.dateien),
-        DateiBefehle({u.clock, u.messages, u.fileDialog, u.dateiInfo, u.dictionary, u.profil, u.meldung,
-                      u.system, static_cast<PositionsDaten&>(*this)}) {}
-  PositionsBefehle(const PositionsBefehle&) = delete;
-  PositionsBefehle& operator=(const PositionsBefehle&) = delete;
 };
 
 }  // namespace korvin

@@ -52,8 +52,9 @@ class CommandsTest : public ::testing::Test {
   test::TestFileDialog fileDialog;
   test::TestFileInfo fileInfo;
   PositionsDateien files{{disk, world.messages, world.meldung, world.dictionary, world.profil, formpos}};
-  PositionsBefehle commands{{world.clock, world.messages, fileDialog, fileInfo, world.dictionary,
-                             world.profil, world.meldung, world.system, formpos, task, files}};
+  PositionsDaten data{formpos, task, files};
+  DateiBefehle commands{{world.clock, world.messages, fileDialog, fileInfo, world.dictionary, world.profil,
+                         world.meldung, world.system, data}};
   int decided = 0;
   std::function<void()> onDecided = [this] { ++decided; };
 };

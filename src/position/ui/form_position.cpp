@@ -58,8 +58,9 @@ FormPosition::FormPosition(const PositionUmgebung& umgebung, QWidget* parent)
     : Messfenster(umgebung.zyklus, umgebung.MSCommKamera, umgebung.erfassung, parent),
       p_(umgebung),
       dateiInfo_(umgebung.zyklus.dictionary, QStringLiteral("FormDateiInfoO"), this),
+      daten_(p_.formpos, p_.erfassung, p_.dateien),
       befehle_({p_.zyklus.clock, p_.zyklus.messages, p_.fileDialog, dateiInfo_, p_.zyklus.dictionary,
-                p_.zyklus.profil, p_.zyklus.meldung, p_.zyklus.system, p_.formpos, p_.erfassung, p_.dateien}),
+                p_.zyklus.profil, p_.zyklus.meldung, p_.zyklus.system, daten_}),
       punkte_(p_.formpos.punkte(), p_.formpos.arbeit()),
       TimerUhr_(p_.zyklus.timers.create()) {
   setObjectName(QStringLiteral("FormPosition"));

@@ -5,12 +5,12 @@
 
 #include "frame/file_dialog.h"
 #include "frame/file_system.h"
+#include "frame/ui/form_datei_info.h"
 #include "link/ui/measuring_window.h"
 #include "position/commands.h"
 #include "position/erfassung.h"
 #include "position/formpos.h"
 #include "position/ui/diagram_area.h"
-#include "position/ui/form_datei_info.h"
 #include "position/ui/point_list.h"
 #include "position/ui/position_panels.h"
 
@@ -84,7 +84,8 @@ class FormPosition : public Messfenster {
 
   PositionUmgebung p_;
   QtDateiInfoDialog dateiInfo_;
-  PositionsBefehle befehle_;
+  PositionsDaten daten_;
+  DateiBefehle befehle_;
   PointListModel punkte_;
   PointList* liste_ = nullptr;
   DiagramArea* bild_ = nullptr;
