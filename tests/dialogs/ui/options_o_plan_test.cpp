@@ -109,10 +109,12 @@ TEST_F(PlanInDialog, TwoBadTimesDoNotSendTheFocusToAndFro) {
 TEST_F(PlanInDialog, LeavingForAnotherWindowChecksNothing) {
   showPlan();
   enter(10, "25:00");
-  QWidget other;
+  QLineEdit other;
   other.show();
   QApplication::setActiveWindow(&other);
-  settle();
+  other.setFocus();
+  for (int i = 0; i < 10; ++i) settle();
+  ASSERT_TRUE(other.hasFocus());
   EXPECT_TRUE(messages.shown.empty());
 }
 
@@ -171,7 +173,12 @@ TEST_F(PlanInDialog, SwitchedOffItSetsNothingAndComesBackWhenSwitchedOn) {
 TEST_F(PlanInDialog, AnInvalidTimeIsDroppedBySwitchingThePlanOff) {
   showPlan();
   enter(10, "25:00");
-  click(check("CheckAutoOn"));
+  QCheckBox* plan = check("CheckAutoOn");
+  const QPoint mark(plan->height() / 2, plan->height() / 2);
+  QTest::mousePress(plan, Qt::LeftButton, {}, mark);
+  // A hand takes its time between press and release.
+  for (int i = 0; i < 10; ++i) settle();
+  QTest::mouseRelease(plan, Qt::LeftButton, {}, mark);
   EXPECT_FALSE(check("CheckAutoOn")->isChecked());
   EXPECT_TRUE(messages.shown.empty());
   ok();
