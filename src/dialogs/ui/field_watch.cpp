@@ -1,6 +1,7 @@
 #include "dialogs/ui/field_watch.h"
 
 #include <QApplication>
+#include <QFocusEvent>
 #include <QScopedValueRollback>
 #include <QStyle>
 #include <QTimer>
@@ -19,13 +20,12 @@ void rahmen(QWidget& feld, bool rot) {
 }  // namespace
 
 FieldWatch::FieldWatch(Feldpruefer& pruefer, QWidget& dialog)
-    : QObject(&dialog), pruefer_(pruefer), dialog_(dialog) {
-  connect(qApp, &QApplication::focusChanged, this, &FieldWatch::fokusWechsel);
-}
+    : QObject(&dialog), pruefer_(pruefer), dialog_(dialog) {}
 
 void FieldWatch::add(TextEntry& feld, Hinweis& hinweis, FeldPruefung pruefung) {
   felder_.push_back({&feld, &hinweis, pruefung});
-  connect(&feld, &QLineEdit::textChanged, this, [this, feld = &feld] { geaendert(*suchen(feld)); });
+  feld.installEventFilter(this);
+  connect(&feld, &QLineEdit::textChanged, this, [this, feld = &feld] { geaendert(suchen(*feld)); });
 }
 
 void FieldWatch::gefuellt() {
@@ -38,18 +38,22 @@ bool FieldWatch::allePruefen() {
   });
 }
 
-void FieldWatch::fokusWechsel(QWidget* vorher) {
-  if (gibtZurueck_ || suchen(vorher) == nullptr) return;
+bool FieldWatch::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::FocusOut || gibtZurueck_) return false;
+  auto* feld = qobject_cast<QWidget*>(watched);
+  const bool durchKlick = static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason;
   // From the queue: a message box must not open in the midst of a change of the focus, and where it goes is
   // known only then.
-  QTimer::singleShot(0, vorher, [this, vorher] {
-    if (verlassen(*vorher)) pruefen(*suchen(vorher));
+  QTimer::singleShot(0, feld, [this, feld, durchKlick] {
+    if (verlassen(*feld, durchKlick)) pruefen(suchen(*feld));
   });
+  return false;
 }
 
-bool FieldWatch::verlassen(const QWidget& feld) const {
+bool FieldWatch::verlassen(const QWidget& feld, bool durchKlick) const {
   const QWidget* jetzt = QApplication::focusWidget();
-  return jetzt != nullptr && jetzt != &feld && jetzt->window() == &dialog_ && !frei_.contains(jetzt);
+  if (jetzt == nullptr || jetzt == &feld || jetzt->window() != &dialog_) return false;
+  return !durchKlick || !frei_.contains(jetzt);
 }
 
 bool FieldWatch::pruefen(Feld& feld) {
@@ -79,10 +83,9 @@ void FieldWatch::geaendert(const Feld& feld) {
   if (feld.hinweis->text() == qText(pruefer_.bereichText(feld.pruefung))) feld.hinweis->zeige({});
 }
 
-FieldWatch::Feld* FieldWatch::suchen(const QWidget* feld) {
-  const auto found =
-      std::find_if(felder_.begin(), felder_.end(), [feld](const Feld& each) { return each.feld == feld; });
-  return found != felder_.end() ? &*found : nullptr;
+FieldWatch::Feld& FieldWatch::suchen(const QWidget& feld) {
+  return *std::find_if(felder_.begin(), felder_.end(),
+                       [&feld](const Feld& each) { return each.feld == &feld; });
 }
 
 }  // namespace korvin

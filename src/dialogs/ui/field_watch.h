@@ -23,7 +23,7 @@ class FieldWatch : public QObject {
 
   /// `hinweis` shows what the box accepts after it has refused.
   void add(TextEntry& feld, Hinweis& hinweis, FeldPruefung pruefung);
-  /// Going to this control checks nothing: it drops the entry, or checks by itself.
+  /// A click on this control checks nothing: it drops the entry, or checks by itself.
   void ausnehmen(const QWidget& control) { frei_.push_back(&control); }
   /// What stands in the boxes now was not entered by the user; until it is changed `allePruefen` asks nothing
   /// of it.
@@ -36,6 +36,9 @@ class FieldWatch : public QObject {
   /// A box is about to get the focus back: brings the page that it stands on to the front.
   std::function<void(const QWidget& feld)> vorholen;
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   struct Feld {
     TextEntry* feld;
@@ -44,13 +47,12 @@ class FieldWatch : public QObject {
     std::string gut{};  ///< the text that last needed no check or passed it
   };
 
-  void fokusWechsel(QWidget* vorher);
-  /// True if the focus is with another control of the dialog, one that counts.
-  bool verlassen(const QWidget& feld) const;
+  /// True if the focus went to another control of the dialog, and not by a click on one that checks nothing.
+  bool verlassen(const QWidget& feld, bool durchKlick) const;
   bool pruefen(Feld& feld);
   void abweisen(const Feld& feld);
   void geaendert(const Feld& feld);
-  Feld* suchen(const QWidget* feld);
+  Feld& suchen(const QWidget& feld);
 
   Feldpruefer& pruefer_;
   QWidget& dialog_;

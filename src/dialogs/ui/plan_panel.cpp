@@ -53,10 +53,17 @@ void PlanPanel::aufbauen() {
   gitter->setHorizontalSpacing(scaled(8));
   gitter->setVerticalSpacing(scaled(6));
   gitter->setColumnStretch(3, 1);
-  reihe(0, 7464, feld(Anzahl, 7464, 7465), nullptr, zurAnzahl_);
-  reihe(1, 7161, feld(Intervall, 7161, 0), nullptr, zumIntervall_);
-  reihe(2, 7162, feld(StartDatum, 7162, 7466), feld(StartZeit, 7162, 7467), zumStart_);
-  reihe(3, 7163, feld(StopDatum, 7163, 7466), feld(StopZeit, 7163, 7467), zumStop_);
+  // In the order in which the tabulator goes through them.
+  TextEntry* anzahl = feld(Anzahl, 7464, 7465);
+  TextEntry* intervall = feld(Intervall, 7161, 0);
+  TextEntry* startDatum = feld(StartDatum, 7162, 7466);
+  TextEntry* startZeit = feld(StartZeit, 7162, 7467);
+  TextEntry* stopDatum = feld(StopDatum, 7163, 7466);
+  TextEntry* stopZeit = feld(StopZeit, 7163, 7467);
+  reihe(0, 7464, anzahl, nullptr, zurAnzahl_);
+  reihe(1, 7161, intervall, nullptr, zumIntervall_);
+  reihe(2, 7162, startDatum, startZeit, zumStart_);
+  reihe(3, 7163, stopDatum, stopZeit, zumStop_);
   reihe(4, 7469, lblDatumAktuell_, lblZeitAktuell_, nullptr);
   gitter->addWidget(erklaerung(qText(dictionary_.DicText(7468)), felder_), 5, 1, 1, 3);
 

@@ -86,6 +86,16 @@ TEST_F(PlanInDialog, AnInvalidTimeTakesTheFocusBack) {
   EXPECT_FALSE(info().StartAktiv);
 }
 
+TEST_F(PlanInDialog, TheTabulatorGoesThroughThePlanInItsOrder) {
+  showPlan();
+  check("CheckAutoOn")->setFocus();
+  for (int index = 7; index <= 12; ++index) {
+    QTest::keyClick(dialog->focusWidget(), Qt::Key_Tab);
+    settle();
+    EXPECT_TRUE(box(index)->hasFocus()) << index;
+  }
+}
+
 TEST_F(PlanInDialog, OkDoesNotTakeAnInvalidTime) {
   showPlan();
   enter(12, "soon");

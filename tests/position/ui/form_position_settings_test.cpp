@@ -59,6 +59,17 @@ TEST_F(SettingsKey, AClickDuringATelegramWaitsForItsEnd) {
   EXPECT_EQ(opened, 1);
 }
 
+TEST_F(SettingsKey, ARunThatTheHeadBeganMeanwhileKeepsItClosed) {
+  inDialog({});
+  show();
+  world.head.delay = 0.2;
+  headKey('J');
+  world.clock.after(0.1, [this] { click("EINRICHTEN"); });
+  run(1);
+  EXPECT_TRUE(pressed("XYMPN"));
+  EXPECT_EQ(opened, 0);
+}
+
 TEST_F(SettingsKey, TheHeadsKeysBeginNothingWhileItIsOpen) {
   show();
   inDialog([this] {
