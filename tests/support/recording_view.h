@@ -22,7 +22,10 @@ class RecordingView : public MessfensterAnsicht {
   void zeigeInfo(bool visible) override { infoVisible = visible; }
   void zeigeServiceZeile(int index, const std::string& text) override { serviceLines[index] = text; }
   void zeigeTelegramm(const std::string& body) override { telegrams.push_back(body); }
-  void setWertFarbe(Farbe farbe) override { valueColour = farbe; }
+  void setWertFarbe(Farbe farbe) override {
+    valueColour = farbe;
+    valueColours.push_back(farbe);
+  }
   void zeigeLeereWerte(const std::string& text) override { emptyValues.push_back(text); }
   void zeigeIntensitaet(const std::string& text, Farbe farbe) override {
     intensity = text;
@@ -42,6 +45,7 @@ class RecordingView : public MessfensterAnsicht {
   void neuZeichnen(bool geaendert) override {
     ++redraws;
     changed = changed || geaendert;
+    if (onRedraw) onRedraw();
   }
   void entladen() override {
     ++unloads;
@@ -58,6 +62,7 @@ class RecordingView : public MessfensterAnsicht {
   std::map<int, std::string> serviceLines;
   std::vector<std::string> telegrams;
   Farbe valueColour = 0;
+  std::vector<Farbe> valueColours;
   std::vector<std::string> emptyValues;
   std::string intensity;
   Farbe intensityColour = 0;
@@ -70,6 +75,7 @@ class RecordingView : public MessfensterAnsicht {
   std::vector<std::string> presses;
   bool hourglass = false;
   int redraws = 0;
+  std::function<void()> onRedraw;
   bool changed = false;
   int unloads = 0;
   std::function<void()> onUnload;
@@ -78,12 +84,17 @@ class RecordingView : public MessfensterAnsicht {
 /// A task without a record: remembers readings and does as the test says.
 class RecordingTask : public Messaufgabe {
  public:
-  const ZyklusBeschreibung& beschreibung() const override { return ZyklusPosition; }
+  const ZyklusBeschreibung& beschreibung() const override { return description; }
   LinkAngaben linkAngaben() const override { return {port, Settings115200, "0"}; }
   char filter() const override { return level; }
   void setFilter(char stufe) override { level = stufe; }
   bool tastenGesperrt() const override { return keysLocked; }
   std::int16_t nkStellen() const override { return 3; }
+  std::int16_t gezeigteMontage() override { return mounting; }
+  bool vorMessung(char state) override {
+    requests += state;
+    return measures;
+  }
   void laufBeginnt(float) override { ++runsBegun; }
   LaufSchritt laufSchritt() override { return step ? step() : LaufSchritt{}; }
   bool laufFertig() const override { return pointsLeft == 0; }
@@ -94,6 +105,17 @@ class RecordingTask : public Messaufgabe {
     if (pointsLeft > 0) --pointsLeft;
   }
 
+  bool nachPunkt() override {
+    ++pointsShown;
+    return redrawsAfterPoint;
+  }
+
+  ZyklusBeschreibung description = ZyklusPosition;  ///< to be changed before the cycle is made
+  std::int16_t mounting = 0;
+  std::string requests;  ///< states that were asked about before measuring
+  bool measures = true;  ///< the answer to that
+  int pointsShown = 0;   ///< calls after a stored point
+  bool redrawsAfterPoint = false;
   std::int16_t port = 3;
   char level = '2';
   bool keysLocked = false;
