@@ -52,5 +52,13 @@ TEST_F(ValuePanelTest, ColoursAreToldAsBlueGreenRed) {
   EXPECT_EQ(panel.valueColour(), QColor(255, 255, 0));
 }
 
+TEST_F(ValuePanelTest, ColouredGroundHasADarkText) {
+  for (const Farbe colour : {FarbeWeiss, FarbeGelb, FarbeRot}) {
+    panel.setGround(colour);
+    EXPECT_EQ(panel.ground(), qColour(colour));
+    EXPECT_LT(panel.valueColour().lightness(), 40);
+  }
+}
+
 }  // namespace
 }  // namespace korvin

@@ -1,0 +1,117 @@
+// What a kind may do around its measurements, and what its description changes in the cycle.
+
+#include <gtest/gtest.h>
+
+#include "support/recording_view.h"
+
+namespace korvin {
+namespace {
+
+using test::answerBody;
+using test::answerFrame;
+
+class CycleHookTest : public ::testing::Test {
+ protected:
+  void start() {
+    cycle.emplace(world.surroundings(), world.head, task, view);
+    cycle->M_KVNOnline();
+  }
+  void request(char state) {
+    cycle->anfordern(state);
+    world.clock.advance(0.2);
+  }
+
+  test::CycleWorld world;
+  test::RecordingView view;
+  test::RecordingTask task;
+  std::optional<Messzyklus> cycle;
+};
+
+TEST_F(CycleHookTest, TaskIsAskedBeforeEveryMeasurementAndOnlyThen) {
+  start();
+  world.clock.advance(0.5);
+  EXPECT_EQ(task.requests, "");
+  request('M');
+  request('S');
+  request('J');
+  EXPECT_EQ(task.requests, "MSJ");
+  cycle->laufBeenden();
+  request('Q');
+  EXPECT_EQ(task.requests, "MSJQ");
+}
+
+TEST_F(CycleHookTest, RequestServedByTheTaskMeasuresNothing) {
+  task.measures = false;
+  start();
+  for (const char state : {'M', 'S', 'J', 'Q'}) {
+    const int redraws = view.redraws;
+    request(state);
+    EXPECT_EQ(cycle->Tastenzustand(), 'K');
+    EXPECT_TRUE(cycle->tmrPolling().enabled());
+    EXPECT_EQ(view.redraws, redraws + 1) << "once for each request";
+  }
+  EXPECT_EQ(task.requests, "MSJQ");
+  EXPECT_FALSE(view.changed);
+  EXPECT_EQ(world.head.commands.find_first_not_of('T'), std::string::npos);
+}
+
+TEST_F(CycleHookTest, TaskActsAfterAStoredSinglePointAlone) {
+  task.redrawsAfterPoint = true;
+  start();
+  request('M');
+  EXPECT_EQ(task.pointsShown, 1);
+  EXPECT_EQ(view.redraws, 2);
+  world.head.intensity = 0;
+  request('M');
+  EXPECT_EQ(task.pointsShown, 1) << "refused";
+  world.head.intensity = 80;
+  request('J');
+  EXPECT_EQ(task.pointsShown, 1) << "running";
+}
+
+TEST_F(CycleHookTest, PictureOfTheHeadFollowsTheTaskWhileOnline) {
+  task.mounting = 3;
+  world.system.FilterVorgabe = '4';
+  cycle.emplace(world.surroundings(), world.head, task, view);
+  cycle->kopfZeigen();
+  EXPECT_EQ(view.mounting, "");
+  EXPECT_EQ(view.cameraLine, "");
+  EXPECT_EQ(world.korCom.MesszeitLimit(), 20) << "the limits follow the filter offline, too";
+  cycle->M_KVNOnline();
+  cycle->kopfZeigen();
+  EXPECT_EQ(view.mounting, "ICON57");
+  EXPECT_EQ(view.cameraLine, "D3003: " + world.korCom.FilterText('4', world.dictionary));
+}
+
+TEST_F(CycleHookTest, PositionShowsTheHeadOnlyWhenAsked) {
+  start();
+  request('J');
+  EXPECT_TRUE(cycle->laeuft());
+  EXPECT_EQ(view.mounting, "");
+  EXPECT_EQ(view.valueColours.front(), FarbeWeiss) << "of a reading";
+  world.head.behaviour = [](char) { return answerFrame(answerBody('T')); };
+  view.valueColours.clear();
+  cycle->laufBeenden();
+  EXPECT_TRUE(view.valueColours.empty()) << "the end of a run leaves the colour";
+}
+
+TEST_F(CycleHookTest, PositionLocksNoMeasuringKey) {
+  start();
+  request('M');
+  EXPECT_TRUE(view.keyFree.empty());
+  request('J');
+  EXPECT_EQ(view.keyFree.size(), 1U);
+  EXPECT_TRUE(view.keyFree.contains("EINRICHTEN"));
+}
+
+TEST_F(CycleHookTest, PositionRaisesRtsAfterAReadingAlone) {
+  start();
+  world.head.behaviour = [](char) { return answerFrame(answerBody('T')); };
+  world.head.changeDsr(true);
+  world.clock.advance(0.2);
+  EXPECT_TRUE(view.raised("ICONFRG"));
+  EXPECT_FALSE(world.head.RTSEnable());
+}
+
+}  // namespace
+}  // namespace korvin
