@@ -191,6 +191,14 @@ TEST_F(GeradErfassungTest, CursorOutsideTheLineIsBroughtOntoIt) {
   EXPECT_EQ(X(0), 6) << "the count";
 }
 
+TEST_F(GeradErfassungTest, LineOfOnePointTakesIt) {
+  line().AnzMPs = 1;
+  KameraAntwort answer;
+  answer.RohX = 260000;
+  task.PunktSpeichern(answer);
+  EXPECT_EQ(X(1), 1);
+}
+
 TEST_F(GeradErfassungTest, LineWithoutPointsTakesNothing) {
   line().AnzMPs = 0;
   line().AktMP = 0;
