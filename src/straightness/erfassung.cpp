@@ -10,6 +10,7 @@
 #include "link/kor_com.h"
 #include "straightness/auswertung.h"
 #include "straightness/neue_reihe.h"
+#include "straightness/punkt_lage.h"
 
 namespace korvin {
 namespace {
@@ -45,6 +46,14 @@ void GeradErfassung::einstellungenLesen() {
   richtungLesen();
 }
 
+void GeradErfassung::punktVersetzen(std::int16_t punkt, double z) {
+  punktVerschieben(linie(), punkt, z);
+  GeradReihe& reihe = u_.formgera.reihe();
+  reihe.X.BereichAlt = 0;
+  reihe.Y.BereichAlt = 0;
+  reihe.Info.Geaendert = true;
+}
+
 LinkAngaben GeradErfassung::linkAngaben() const {
   const GeradInfo& g = info();
   return {g.PortNr, std::string(g.BaudRate.trimmed()), std::string(g.KameraID.trimmed())};
@@ -64,26 +73,24 @@ void GeradErfassung::REF() {
   info().Auswertung = AuswertungREF;
 }
 
-bool GeradErfassung::REF1() {
-  const std::int16_t punkt = linie().AktMP;
-  const bool davor = punkt < info().Ref2;
-  if (davor) {
-    info().Ref1 = punkt;
+bool GeradErfassung::referenzNehmen(std::int16_t& ref, bool erlaubt) {
+  const LinienGeometrie& line = linie();
+  // A file may bring a cursor along that stands on no point.
+  const bool genommen = erlaubt && line.AktMP >= 1 && line.AktMP <= line.AnzMPs;
+  if (genommen) {
+    ref = line.AktMP;
   } else {
     u_.messages.beep();
   }
-  return davor;
+  return genommen;
+}
+
+bool GeradErfassung::REF1() {
+  return referenzNehmen(info().Ref1, linie().AktMP < info().Ref2);
 }
 
 bool GeradErfassung::REF2() {
-  const std::int16_t punkt = linie().AktMP;
-  const bool dahinter = punkt > info().Ref1;
-  if (dahinter) {
-    info().Ref2 = punkt;
-  } else {
-    u_.messages.beep();
-  }
-  return dahinter;
+  return referenzNehmen(info().Ref2, linie().AktMP > info().Ref1);
 }
 
 bool GeradErfassung::referenztastenSichtbar() const {

@@ -37,6 +37,10 @@ class GeradErfassung : public LinienErfassung {
   /// settings have become others. Readings, `Montage` and `Filter` of the series stay as they are.
   void einstellungenLesen();
 
+  /// Moves a point of the line to `z` mm, or as near to it as its neighbours allow. The series counts as
+  /// changed, and both diagrams are to be drawn anew, frame and all.
+  void punktVersetzen(std::int16_t punkt, double z);
+
   // ---- Keys of the evaluation ----
 
   /// Raw values.
@@ -45,9 +49,11 @@ class GeradErfassung : public LinienErfassung {
   void ISO();
   /// Deviations from the line through the reference points.
   void REF();
-  /// The current point becomes `Ref1`; false, with a beep and nothing changed, unless it lies before `Ref2`.
+  /// The current point becomes `Ref1`; false, with a beep and nothing changed, unless it lies on the line and
+  /// before `Ref2`.
   bool REF1();
-  /// The current point becomes `Ref2`; false, with a beep and nothing changed, unless it lies behind `Ref1`.
+  /// The current point becomes `Ref2`; false, with a beep and nothing changed, unless it lies on the line and
+  /// behind `Ref1`.
   bool REF2();
   /// The keys "REF1" and "REF2" are there.
   bool referenztastenSichtbar() const;
@@ -67,6 +73,8 @@ class GeradErfassung : public LinienErfassung {
   void punktEintragen(double X, double Y) override { u_.formgera.punktEintragen(X, Y); }
 
  private:
+  /// `ref` takes the current point if it may.
+  bool referenzNehmen(std::int16_t& ref, bool erlaubt);
   GeradInfo& info() const { return u_.formgera.reihe().Info; }
 
   GeradErfassungUmgebung u_;

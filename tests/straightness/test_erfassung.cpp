@@ -136,6 +136,27 @@ TEST_F(GeradErfassungTest, SecondOfTwoPointsIsNoFirstReference) {
   EXPECT_EQ(world.messages.beeps, 1);
 }
 
+TEST_F(GeradErfassungTest, CursorOffTheLineIsNoReference) {
+  line().AktMP = 0;
+  EXPECT_FALSE(task.REF1());
+  line().AktMP = 7;
+  EXPECT_FALSE(task.REF2());
+  EXPECT_EQ(info().Ref1, 1);
+  EXPECT_EQ(info().Ref2, 6);
+  EXPECT_EQ(world.messages.beeps, 2);
+}
+
+TEST_F(GeradErfassungTest, MovedPointChangesTheSeriesAndHasTheDiagramsDrawnAnew) {
+  series().X.BereichAlt = series().Y.BereichAlt = 0.1;
+  task.punktVersetzen(2, 600);
+  EXPECT_EQ(line().Z.at(2), 600);
+  task.punktVersetzen(2, 5000);
+  EXPECT_EQ(line().Z.at(2), 1000 - 2500.0 / 200) << "up to its neighbour";
+  EXPECT_EQ(series().X.BereichAlt, 0);
+  EXPECT_EQ(series().Y.BereichAlt, 0);
+  EXPECT_TRUE(info().Geaendert);
+}
+
 // ---- Storing ----
 
 TEST_F(GeradErfassungTest, ReadingIsStoredInMmWithTheHeadsSignOfY) {
