@@ -1,7 +1,6 @@
 #include "reports/ui/device_pages.h"
 
 #include <QPageLayout>
-#include <QPageSize>
 
 #include "reports/ui/page_painter.h"
 
@@ -11,7 +10,6 @@ namespace {
 constexpr double mmPerInch = 25.4;
 
 void layOutPaper(QPagedPaintDevice& device) {
-  device.setPageSize(QPageSize(QPageSize::A4));
   device.setPageOrientation(QPageLayout::Portrait);
   QPageLayout layout = device.pageLayout();
   layout.setMode(QPageLayout::FullPageMode);

@@ -14,8 +14,9 @@ struct DeviceRefused : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// Puts pages on a printer or into a PDF: A4 upright, millimetres counted from the corner of the paper, also
-/// where the device keeps margins. What lies in a margin that a printer can't reach is lost.
+/// Puts pages on a printer or into a PDF, upright, on the device's paper, with millimetres counted from the
+/// corner of the paper, also where the device keeps margins. Pages are made for A4; on other paper nothing is
+/// stretched. What lies in a margin that a printer can't reach is lost.
 class DevicePages : public PageSink {
  public:
   /// Both outlive it. The device's settings (printer, resolution, title) have to be made before.

@@ -11,6 +11,7 @@ namespace {
 
 void describe(QPdfWriter& writer, const std::string& titel) {
   writer.setTitle(qText(titel));
+  writer.setPageSize(QPageSize(QPageSize::A4));
   writer.setCreator(QStringLiteral("KORVIN"));
 }
 

@@ -71,6 +71,7 @@ void PrintProgress::showBox() {
   page_->setObjectName(QStringLiteral("PrintProgressPage"));
   auto* cancel = new QPushButton(qText(u_.dictionary.DicText(textCancel)), box_.get());
   cancel->setObjectName(QStringLiteral("PrintProgressCancel"));
+  cancel->setAutoDefault(false);  // Enter may have been meant for what was there before the box
   const bool allowed = cancelling_ == Cancelling::allowed;
   cancel->setEnabled(allowed);
   // Its corner and Escape mean the same.
