@@ -212,7 +212,7 @@ TEST_F(DruckInfo, WhatWindows1252LacksIsRefusedVisibly) {
 }
 
 TEST_F(DruckInfo, ATextThatWasNotEditedKeepsItsBytes) {
-  info.Bediener.bytes().at(1) = '\0';
+  info.Bediener.bytes().fill('\0');
   const auto before = info.Bediener;
   open();
   type(0, "Welle");

@@ -42,7 +42,9 @@ TEST_F(QtDruckerTest, UnitsAreMillimetresAtFirstAndOnEachNewPage) {
   EXPECT_FLOAT_EQ(first.x2, 190);
   EXPECT_FLOAT_EQ(first.y2, 292);
   drucker.linie(1, 2, 3, 4, 0);
-  EXPECT_FLOAT_EQ(page().marks.at(0).y2, 4);
+  const PageMark second = page().marks.at(0);
+  EXPECT_FLOAT_EQ(second.x2, 3);
+  EXPECT_FLOAT_EQ(second.y2, 4);
 }
 
 TEST_F(QtDruckerTest, AScaleRunsFromCornerToCornerOf210By292Millimetres) {
@@ -109,6 +111,7 @@ TEST_F(QtDruckerTest, WidthsAreThoseOfTheFontInUnitsOfTheScale) {
   const double figure = 10 * 25.4 / 72 * 1139 / 2048;
   EXPECT_NEAR(drucker.textBreite("00000"), 5 * figure, hair);
   EXPECT_NEAR(drucker.textBreite("0 "), figure * (1 + 569.0 / 1139), hair);
+  EXPECT_NEAR(drucker.textBreite("mm "), drucker.textBreite("mm") + figure * 569 / 1139, hair);
   drucker.setSkala(0, 0, 2100, 29.2);
   EXPECT_NEAR(drucker.textBreite("0"), 10 * figure, 10 * hair);
   EXPECT_NEAR(drucker.textHoehe("0"), 10 * 25.4 / 72 * (1854 + 434) / 2048 / 10, hair);
