@@ -47,7 +47,6 @@ std::pair<double, QList<QGlyphRun>> laidOut(const QString& text, const QFont& fo
   QTextOption option;
   option.setWrapMode(QTextOption::NoWrap);
   option.setTextDirection(Qt::LeftToRight);
-  option.setFlags(QTextOption::IncludeTrailingSpaces);
   layout.setTextOption(option);
   layout.beginLayout();
   QTextLine line = layout.createLine();
