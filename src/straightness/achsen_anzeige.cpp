@@ -66,11 +66,11 @@ void toleranzBerechnen(AchsenAnzeigeDaten& daten, const AchsenQuelle& quelle, co
   daten.band = toleranzband(ergebnis, *daten.extreme, schalter.Masssystem);
 }
 
-std::string aktuellerWert(const AchsenAnzeigeDaten& daten, const AchsenQuelle& quelle,
-                          const AchsenSchalter& schalter) {
-  const auto punkt = static_cast<std::size_t>(quelle.linie.AktMP);
-  if (quelle.linie.AktMP < 1 || punkt > daten.ausgewertet.anzahl()) return "?.?";
-  return punktWertText(quelle.reihe.Wert[punkt], daten.ausgewertet.at(punkt), schalter.NKStellen);
+std::string wertText(const AchsenAnzeigeDaten& daten, const AchsenQuelle& quelle,
+                     const AchsenSchalter& schalter, std::int16_t punkt) {
+  const auto i = static_cast<std::size_t>(punkt);
+  if (punkt < 1 || i > daten.ausgewertet.anzahl()) return "?.?";
+  return punktWertText(quelle.reihe.Wert[i], daten.ausgewertet.at(i), schalter.NKStellen);
 }
 
 }  // namespace
@@ -107,7 +107,7 @@ AchsenAnzeigeDaten achseBerechnen(const AchsenQuelle& quelle, const AchsenSchalt
   }
   if (schalter.Abschnitt) toleranzBerechnen(daten, quelle, schalter, ergebnis);
   daten.texte.Bereich = daten.bereich.text;
-  daten.texte.Wert = aktuellerWert(daten, quelle, schalter);
+  daten.texte.Wert = wertText(daten, quelle, schalter, quelle.linie.AktMP);
   return daten;
 }
 
@@ -147,6 +147,15 @@ std::vector<AchsenMarke> referenzMarken(const AchsenQuelle& quelle) {
   const Farbe farbe = beide ? FarbeRot : FarbeAchsenLinie;
   const auto z = [&](std::int16_t punkt) { return quelle.linie.Z.at(static_cast<std::size_t>(punkt)); };
   return {{z(vorgabe.Ref1), "Ref1", farbe}, {z(vorgabe.Ref2), "Ref2", farbe}};
+}
+
+std::string punktHinweis(const AchsenQuelle& quelle, const AchsenAnzeigeDaten& daten,
+                         const AchsenSchalter& schalter, std::string_view name, std::int16_t punkt) {
+  if (punkt < 1 || punkt > quelle.linie.AnzMPs) return {};
+  const bool inch = schalter.Masssystem == MasssystemInch;
+  const double z = anzeigeLaenge(quelle.linie.Z.at(static_cast<std::size_t>(punkt)), schalter.Masssystem);
+  return "MP " + formatNumber(punkt, "0") + "\nz  " + formatNumber(z, "0.0") + (inch ? " in\n" : " mm\n") +
+         std::string(name) + ' ' + wertText(daten, quelle, schalter, punkt) + (inch ? " mil" : " mm");
 }
 
 AchsenRahmen achsenRahmen(const AchsenQuelle& quelle, const AchsenAnzeigeDaten& daten, bool Gitter) {

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "frame/bereich.h"
 #include "straightness/achsen_diagramm.h"
@@ -76,6 +77,11 @@ std::vector<AchsenMarke> referenzMarken(const AchsenQuelle& quelle);
 AchsenRahmen achsenRahmen(const AchsenQuelle& quelle, const AchsenAnzeigeDaten& daten, bool Gitter);
 AchsenInhalt achsenInhalt(const AchsenQuelle& quelle, const AchsenAnzeigeDaten& daten,
                           const AchsenSchalter& schalter);
+
+/// What the pointer tells over a point: its number, its z in mm or inch and, under `name`, its value. Empty
+/// for a point outside the line.
+std::string punktHinweis(const AchsenQuelle& quelle, const AchsenAnzeigeDaten& daten,
+                         const AchsenSchalter& schalter, std::string_view name, std::int16_t punkt);
 
 /// `reihe` as the source of one of its axes.
 AchsenQuelle achsenQuelle(const GeradReihe& reihe, const GeradAchse& achse, std::int16_t Masssystem);

@@ -48,6 +48,18 @@ std::optional<std::int16_t> ziehbarerPunktBei(const LinienGeometrie& linie, doub
   return letzterPunktBei(linie, z, 2);
 }
 
+std::optional<std::int16_t> naechsterPunkt(std::span<const double> Z, std::int16_t AnzMPs, double z,
+                                           double weite) {
+  std::optional<std::int16_t> naechster;
+  for (std::int16_t i = 1; i <= AnzMPs; ++i) {
+    const double abstand = std::fabs(z - Z[static_cast<std::size_t>(i)]);
+    if (!(abstand <= weite)) continue;
+    naechster = i;
+    weite = abstand;
+  }
+  return naechster;
+}
+
 void punktVerschieben(LinienGeometrie& linie, std::int16_t punkt, double z) {
   if (punkt < 1 || punkt > linie.AnzMPs || !std::isfinite(z)) return;
   linie.Z.at(static_cast<std::size_t>(punkt)) = punkt == 1 ? 0 : zErlaubt(linie, punkt, z);

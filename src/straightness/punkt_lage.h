@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 
 #include "straightness/record.h"
 
@@ -19,6 +20,10 @@ void PunktWechseln(LinienGeometrie& linie, int schritt);
 std::optional<std::int16_t> punktBei(const LinienGeometrie& linie, double z);
 /// The same for a drag, which the first point takes no part in.
 std::optional<std::int16_t> ziehbarerPunktBei(const LinienGeometrie& linie, double z);
+
+/// The point nearest to `z`, if it is no further than `weite`. `Z` holds the points from index 1 on.
+std::optional<std::int16_t> naechsterPunkt(std::span<const double> Z, std::int16_t AnzMPs, double z,
+                                           double weite);
 
 /// Moves a point to `z`, or as near to it as its neighbours and the ends of the line allow: points keep their
 /// order and a gap of 1/200 of the line. The first point stays at 0. A point outside 1 to `AnzMPs`, and a `z`

@@ -156,5 +156,19 @@ TEST(ReferenzMarken, AreGreyWithAnOpenReferencePoint) {
     EXPECT_EQ(mark.farbe, 0x808080);
 }
 
+TEST(PunktHinweis, TellsNumberZAndValueInTheUnitsShown) {
+  AxisStand axis({0.001, Leerwert, 0.0254});
+  const auto hint = [&](std::int16_t point, std::int16_t system) {
+    axis.draw(system);
+    return punktHinweis(achsenQuelle(axis.series, axis.series.X, system), axis.data,
+                        achsenSchalter(axis.series.Info, system), "Y", point);
+  };
+  EXPECT_EQ(hint(1, 0), "MP 1\nz  0.0 mm\nY  0.001 mm");
+  EXPECT_EQ(hint(3, Inch), "MP 3\nz  39.4 in\nY  1.000 mil");
+  EXPECT_EQ(hint(2, Inch), "MP 2\nz  19.7 in\nY ?.? mil");
+  EXPECT_EQ(hint(0, 0), "");
+  EXPECT_EQ(hint(4, 0), "");
+}
+
 }  // namespace
 }  // namespace korvin

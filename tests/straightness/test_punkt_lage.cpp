@@ -67,6 +67,16 @@ TEST(PunktVerschieben, KeepsOrderAndGap) {
   EXPECT_EQ(moved(3, -50), 205);
 }
 
+TEST(NaechsterPunkt, TakesTheNearestWithinReach) {
+  const LinienGeometrie made = line();
+  EXPECT_EQ(naechsterPunkt(made.Z, made.AnzMPs, 290, 100), 2);
+  EXPECT_EQ(naechsterPunkt(made.Z, made.AnzMPs, 310, 100), 3);
+  EXPECT_EQ(naechsterPunkt(made.Z, made.AnzMPs, 1030, 30), 6);
+  EXPECT_EQ(naechsterPunkt(made.Z, made.AnzMPs, 1031, 30), std::nullopt);
+  EXPECT_EQ(naechsterPunkt(made.Z, 0, 0, 30), std::nullopt);
+  EXPECT_EQ(naechsterPunkt(made.Z, 6, std::numeric_limits<double>::quiet_NaN(), 30), std::nullopt);
+}
+
 TEST(PunktVerschieben, KeepsTheFirstPointAtZero) {
   EXPECT_EQ(moved(1, 50), 0);
 }

@@ -97,12 +97,16 @@ QRect PictureWidget::inWidget(const QRect& pixels) const {
   return area.translated(pictureRect().topLeft()).toAlignedRect();
 }
 
-std::optional<DataPoint> PictureWidget::dataAt(const QPointF& place) const {
+DataPoint PictureWidget::dataOf(const QPointF& place) const {
   const QRectF area(pictureRect());
-  if (frame_.image.isNull() || !area.contains(place)) return std::nullopt;
   const QPointF share = place - area.topLeft();
-  return DataPoint{window_.left + share.x() / area.width() * (window_.right - window_.left),
-                   window_.top + share.y() / area.height() * (window_.bottom - window_.top)};
+  return {window_.left + share.x() / area.width() * (window_.right - window_.left),
+          window_.top + share.y() / area.height() * (window_.bottom - window_.top)};
+}
+
+std::optional<DataPoint> PictureWidget::dataAt(const QPointF& place) const {
+  if (frame_.image.isNull() || !QRectF(pictureRect()).contains(place)) return std::nullopt;
+  return dataOf(place);
 }
 
 std::optional<QPointF> PictureWidget::placeOf(DataPoint point) const {
@@ -211,23 +215,54 @@ void PictureWidget::drawAll(DrawingSurface& surface) {
 
 void PictureWidget::mousePressEvent(QMouseEvent* event) {
   const auto at = dataAt(event->position());
-  if (event->button() == Qt::LeftButton && at) pressed(*at);
+  if (event->button() != Qt::LeftButton || !at) return;
+  held_ = true;
+  pressed(*at);
 }
 
 void PictureWidget::mouseMoveEvent(QMouseEvent* event) {
-  const auto at = dataAt(event->position());
+  // A box that opened meanwhile may have taken the release.
+  if (held_ && !event->buttons().testFlag(Qt::LeftButton)) letGo();
+  if (held_) dragged(dataOf(event->position()));
+  showHint(event->position(), event->globalPosition().toPoint());
+}
+
+void PictureWidget::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) letGo();
+}
+
+void PictureWidget::hideEvent(QHideEvent* event) {
+  letGo();
+  QWidget::hideEvent(event);
+}
+
+void PictureWidget::letGo() {
+  if (!held_) return;
+  held_ = false;
+  released();
+}
+
+void PictureWidget::showHint(const QPointF& place, const QPoint& onScreen) {
+  const auto at = dataAt(place);
   const QString words = at ? hint(*at) : QString();
+  showPointer(!words.isEmpty());
   if (words.isEmpty()) {
-    unsetCursor();
     QToolTip::hideText();
-    return;
+  } else {
+    QToolTip::showText(onScreen, words, this);
   }
-  setCursor(Qt::PointingHandCursor);
-  QToolTip::showText(event->globalPosition().toPoint(), words, this);
+}
+
+void PictureWidget::showPointer(bool hinted) {
+  if (hinted) {
+    setCursor(Qt::PointingHandCursor);
+  } else {
+    unsetCursor();
+  }
 }
 
 void PictureWidget::leaveEvent(QEvent* event) {
-  unsetCursor();
+  showPointer(false);
   QToolTip::hideText();
   QWidget::leaveEvent(event);
 }

@@ -53,6 +53,12 @@ class PictureWidget : public QWidget {
   }
   /// The left button was pressed in the picture.
   virtual void pressed(DataPoint at) { static_cast<void>(at); }
+  /// The pointer moved since, with the button held; `at` may lie beyond the picture.
+  virtual void dragged(DataPoint at) { static_cast<void>(at); }
+  /// The button is up again, or what held it has gone.
+  virtual void released() {}
+  /// The pointer is over something that has a hint, or no longer so.
+  virtual void showPointer(bool hinted);
 
   // ---- What a diagram may ask for ----
 
@@ -65,11 +71,15 @@ class PictureWidget : public QWidget {
   void addContents(const DiagramPainter& draw);
   /// The overlay is painted anew; the kept layers stay.
   void overlayChanged();
+  /// From a press in the picture to the release.
+  bool isHeld() const { return held_; }
 
   bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
   void leaveEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
@@ -80,6 +90,9 @@ class PictureWidget : public QWidget {
     bool valid = false;
   };
 
+  DataPoint dataOf(const QPointF& place) const;
+  void showHint(const QPointF& place, const QPoint& onScreen);
+  void letGo();
   QSize pictureSizeInPixels() const;
   void bringLayersUpToDate();
   void drawOn(Layer& layer, const DiagramPainter& draw);
@@ -99,6 +112,7 @@ class PictureWidget : public QWidget {
   DataWindow window_;
   Layer frame_;
   Layer contents_;
+  bool held_ = false;
   QRect overlayArea_;  ///< of the last painting, in the widget
 };
 
