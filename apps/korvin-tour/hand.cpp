@@ -9,6 +9,8 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QTableView>
 #include <QTest>
 #include <QToolButton>
@@ -117,6 +119,26 @@ void Hand::choose(const QString& window, const QString& entry) {
   });
 }
 
+void Hand::turnTo(const QString& dialog, const QString& tabs, int page) {
+  gui_.ask([=] {
+    auto* control = qobject_cast<QTabWidget*>(&findControl(dialog, tabs));
+    if (control == nullptr) fail(QStringLiteral("\"%1\" has no pages").arg(tabs));
+    requireInReach(*control);
+    QTest::mouseClick(control->tabBar(), Qt::LeftButton, {}, control->tabBar()->tabRect(page).center());
+    if (control->currentIndex() != page) fail(QStringLiteral("\"%1\" shows another page").arg(tabs));
+  });
+}
+
+void Hand::press(const QString& window, Qt::Key key) {
+  gui_.ask([=] {
+    QWidget& target = windowOf(window);
+    requireInReach(target);
+    Gui::post([its = QPointer<QWidget>(&target), key] {
+      if (its) QTest::keyClick(its, key);
+    });
+  });
+}
+
 void Hand::type(const QString& window, const QString& entry, const QString& text) {
   gui_.ask([=] {
     auto* line = qobject_cast<QLineEdit*>(&findControl(window, entry));
@@ -169,6 +191,16 @@ QString Hand::label(const QString& window, const QString& label) {
 void Hand::waitForLabel(const QString& window, const QString& label, const QString& part, double seconds) {
   Gui::until("\"" + part.toStdString() + "\" in the label \"" + label.toStdString() + "\"", seconds,
              [=] { return labelText(window, label).contains(part); });
+}
+
+bool Hand::isSet(const QString& window, const QString& control) {
+  bool set = false;
+  gui_.ask([&] {
+    auto* button = qobject_cast<QAbstractButton*>(&findControl(window, control));
+    if (button == nullptr) fail(QStringLiteral("\"%1\" is no button").arg(control));
+    set = button->isChecked();
+  });
+  return set;
 }
 
 bool Hand::isChecked(const QString& window, const QString& entry) {

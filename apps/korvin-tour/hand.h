@@ -27,6 +27,10 @@ class Hand {
   void accept(const QString& dialog);
   /// Chooses an entry of a window's menus.
   void choose(const QString& window, const QString& entry);
+  /// Brings a page of a tabbed dialog to the front.
+  void turnTo(const QString& dialog, const QString& tabs, int page);
+  /// Presses a key in the window, where its focus is.
+  void press(const QString& window, Qt::Key key);
   /// Replaces what stands in an entry by `text`, key by key.
   void type(const QString& window, const QString& entry, const QString& text);
   /// Saves a picture of the window as `name`.png.
@@ -42,6 +46,8 @@ class Hand {
   /// Text of a label, trimmed.
   QString label(const QString& window, const QString& label);
   void waitForLabel(const QString& window, const QString& label, const QString& part, double seconds = 15);
+  /// Whether a check box or key is set.
+  bool isSet(const QString& window, const QString& control);
   bool isChecked(const QString& window, const QString& entry);
   bool isPressed(const QString& window, const QString& key);
   void waitForKey(const QString& window, const QString& key, bool pressed, double seconds = 15);

@@ -21,9 +21,10 @@
 namespace korvin::tour {
 namespace {
 
-constexpr int timeLimit = 150;             ///< seconds for the whole walk
+constexpr int timeLimit = 200;             ///< seconds for the whole walk
 constexpr qsizetype longestFileName = 75;  ///< bytes for a path in a measuring file
 const QString fileName = QStringLiteral("walk.O");
+const QString reportName = QStringLiteral("walk.pdf");
 
 /// Folders of the walk's own: never the user's settings, never their files.
 class Places {
@@ -50,6 +51,7 @@ class Places {
     const QString direct = QDir(out_).filePath(fileName);
     return direct.toUtf8().size() <= longestFileName ? direct : own_.filePath(fileName);
   }
+  QString report() const { return QDir(out_).filePath(reportName); }
   void bringFiles() const {
     if (QFileInfo(file()).absolutePath() == out_) return;
     for (const char* suffix : {"", "1", "$"}) {
@@ -61,8 +63,8 @@ class Places {
  private:
   /// What an earlier walk left and this one would meet. Pictures are written over.
   void removeOldFiles() const {
-    const QStringList left = {fileName, fileName + QLatin1Char('1'), fileName + QLatin1Char('$'),
-                              QStringLiteral("walk.txt"), QStringLiteral("failed-*.png")};
+    const QStringList left = {fileName,   fileName + QLatin1Char('1'), fileName + QLatin1Char('$'),
+                              reportName, QStringLiteral("walk.txt"),  QStringLiteral("failed-*.png")};
     for (const QString& old : QDir(out_).entryList(left, QDir::Files))
       QFile::remove(QDir(out_).filePath(old));
   }
@@ -155,8 +157,9 @@ int walkThrough(const QString& out) {
     journal.failed("The whole walk", "it took longer than " + std::to_string(timeLimit) + " s");
     endBadly(places, head);
   });
-  Walk walk({places.out(), places.file(), Folders(chooseFolders(places.environment())).settingsFile()}, head,
-            journal);
+  Walk walk({places.out(), places.file(), places.report(),
+             Folders(chooseFolders(places.environment())).settingsFile()},
+            head, journal);
   startProgram(places, head, journal, [&] { return walk.firstStart(); });
   startProgram(places, head, journal, [&] { return walk.secondStart(); });
   places.bringFiles();

@@ -14,6 +14,9 @@ inline const QString fileEntry = QStringLiteral("fileNameEdit");
 inline const QString fileInfo = QStringLiteral("FormDateiInfoO");
 inline const QString information = QStringLiteral("FormInfo");
 inline const QString guide = QStringLiteral("CMDialogHilfe");
+inline const QString settings = QStringLiteral("FormOptionsO");
+inline const QString printDialog = QStringLiteral("FormDruckInfoO");
+inline const QString preview = QStringLiteral("PrintPreview");
 inline const QString ok = QStringLiteral("cmdOK");
 
 inline const QString single = QStringLiteral("XYMP1");

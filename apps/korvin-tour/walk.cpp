@@ -19,7 +19,7 @@ bool Walk::firstStart() {
 }
 
 bool Walk::secondStart() {
-  static constexpr std::array<Step, 17> steps = {
+  static constexpr std::array<Step, 22> steps = {
       {{"The second start finds the head at once", &Walk::foundAtOnce},
        {"The tile opens the position window", &Walk::openPosition},
        {"A single measurement, by the tool bar", &Walk::singleByClick},
@@ -31,8 +31,13 @@ bool Walk::secondStart() {
        {"The point cursor, by the head's keys", &Walk::cursorByHead},
        {"The offset", &Walk::offset},
        {"The big numbers", &Walk::bigNumbers},
+       {"The diagram: cursor, grid, ranges by hand", &Walk::diagram},
+       {"Mean, spread and range", &Walk::statistics},
+       {"The settings of position measuring", &Walk::settings},
+       {"The report on the screen", &Walk::preview},
        {"The measurement is saved", &Walk::save},
        {"Its three files hold what was measured", &Walk::files},
+       {"The report as PDF", &Walk::report},
        {"The window closes", &Walk::closePosition},
        {"The file opens again and shows what was measured", &Walk::reopen},
        {"The same in German and Japanese", &Walk::reopenInOtherLanguages},

@@ -16,6 +16,7 @@ namespace korvin::tour {
 struct WalkPlaces {
   QString pictures;                    ///< folder of the pictures
   QString file;                        ///< the measuring file that is written, with its full path
+  QString report;                      ///< the report as PDF, likewise
   std::filesystem::path settingsFile;  ///< the settings of the walk
 };
 
@@ -71,8 +72,18 @@ class Walk {
   std::string reopen();
   std::string reopenInOtherLanguages();
 
+  // ---- walk_evaluation.cpp ----
+  std::string settings();
+  std::string diagram();
+  std::string statistics();
+  std::string preview();
+  std::string report();
+
+  /// Clicks a key or box unless it is set.
+  void set(const QString& window, const QString& control);
+  void openPrintDialog();
   void chooseLanguage(int index);
-  void typeFileAndAccept();
+  void typeFileAndAccept(const QString& file);
   void openFile();
   void waitForPosition();
   /// Clicks the key, lets `count` points come, clicks again; returns the number of points then.

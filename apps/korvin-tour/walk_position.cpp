@@ -155,9 +155,9 @@ std::string Walk::bigNumbers() {
   return "X " + x.toStdString() + ", as in the panel";
 }
 
-void Walk::typeFileAndAccept() {
+void Walk::typeFileAndAccept(const QString& file) {
   hand_.waitFor(names::fileDialog);
-  hand_.type(names::fileDialog, names::fileEntry, places_.file);
+  hand_.type(names::fileDialog, names::fileEntry, file);
   hand_.accept(names::fileDialog);
   hand_.waitGone(names::fileDialog);
 }
@@ -166,7 +166,7 @@ std::string Walk::save() {
   hand_.click(names::position, QStringLiteral("SPEICHERN"));
   hand_.waitFor(names::fileDialog);
   hand_.picture(names::fileDialog, QStringLiteral("file-dialog"));
-  typeFileAndAccept();
+  typeFileAndAccept(places_.file);
   hand_.waitFor(names::fileInfo);
   hand_.type(names::fileInfo, QStringLiteral("Bezeichnung"),
              QStringLiteral("Walk through the position window"));
@@ -195,7 +195,7 @@ std::string Walk::closePosition() {
 
 void Walk::openFile() {
   hand_.click(names::mainWindow, QStringLiteral("DateiOeffnen"));
-  typeFileAndAccept();
+  typeFileAndAccept(places_.file);
   waitForPosition();
 }
 

@@ -32,10 +32,18 @@ TEST(Tour, EndsInSuccessAndLeavesFilesAndPictures) {
   EXPECT_EQ(fs::file_size(out / "walk.O"), headBytes);
   EXPECT_GT(fs::file_size(out / "walk.O1"), 60 * tripleBytes);
   EXPECT_THAT(fileBytes(out / "walk.O$"), HasSubstr("X[mm]"));
-  for (const char* name :
-       {"search", "start-screen-de", "start-screen-en", "start-screen-ja", "information", "guide",
-        "position-empty", "position-measuring", "position-points", "position-big-numbers",
-        "position-reopened", "position-de", "position-ja", "file-information", "file-dialog"}) {
+  EXPECT_THAT(fileBytes(out / "walk.pdf"), ::testing::StartsWith("%PDF"));
+  for (const char* name : {"search",           "start-screen-de",
+                           "start-screen-en",  "start-screen-ja",
+                           "information",      "guide",
+                           "position-empty",   "position-measuring",
+                           "position-points",  "position-big-numbers",
+                           "position-diagram", "position-statistics",
+                           "settings-1",       "settings-2",
+                           "settings-3",       "print-dialog",
+                           "print-preview",    "position-reopened",
+                           "position-de",      "position-ja",
+                           "file-information", "file-dialog"}) {
     EXPECT_THAT(fileBytes(out / (std::string(name) + ".png")), ::testing::StartsWith("\x89PNG")) << name;
   }
 }
