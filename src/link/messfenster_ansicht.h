@@ -38,7 +38,7 @@ class MessfensterAnsicht {
   virtual void zeigeNurSimulation(const std::string& text, Farbe farbe) = 0;
   /// `ImgMontage`: key of the picture of the mounting.
   virtual void zeigeMontage(const std::string& bild) = 0;
-  /// `lblKamera` while the head is online.
+  /// `lblKamera`, but for a simulated head.
   virtual void zeigeKamera(const std::string& text) = 0;
   virtual void zeigeVerbindung(const Verbindungsmarken& marken) = 0;
 

@@ -87,10 +87,9 @@ std::string Messzyklus::titel() {
 }
 
 void Messzyklus::kopfZeigen() {
-  const std::string filter = u_.korCom.FilterText(u_.system.FilterVorgabe, u_.dictionary);
-  if (!marken_.online) return;
   ansicht_.zeigeMontage(std::string(MontageBild(aufgabe_.gezeigteMontage())));
-  ansicht_.zeigeKamera(u_.dictionary.DicText(TextKamera) + ": " + filter);
+  const std::string filter = u_.korCom.FilterText(u_.system.FilterVorgabe, u_.dictionary);
+  if (!marken_.simulation) ansicht_.zeigeKamera(u_.dictionary.DicText(TextKamera) + ": " + filter);
 }
 
 // ---- Requests from the window ----
@@ -404,7 +403,7 @@ void Messzyklus::laufFaerben() {
 
 // ---- Readings ----
 
-bool Messzyklus::uebernehmen() {
+bool Messzyklus::AntwortPruefen() {
   const double norm = zahlAusText(u_.profil.wert(einstellung::Verbindung::NormInt_Laser));
   const Qualitaet befund =
       qualitaetPruefen(u_.antwort, norm, u_.korCom.SensorHalbbereich(), tastenzustand_ == 'K');
@@ -416,13 +415,19 @@ bool Messzyklus::uebernehmen() {
       u_.dictionary.DicText(3081) + ": " + formatNumber(u_.antwort.Intensitaet, "0") + " % ",
       befund.intensitaetFarbe);
   ansicht_.setWertFarbe(befund.wertFarbe);
-  if (befund.ok) aufgabe_.wertUebernehmen(u_.antwort);
-  if (befund.ok || aufgabe_.beschreibung().abgelehntesZeichnen) ansicht_.neuZeichnen(true);
   if (!befund.ok) {
+    if (aufgabe_.beschreibung().abgelehntesZeichnen) ansicht_.neuZeichnen(true);
     icon(IconAbgelehnt);
     ansicht_.zeigeLeereWerte(" " + std::string(LeerMuster(aufgabe_.nkStellen())));
   }
   return befund.ok;
+}
+
+bool Messzyklus::uebernehmen() {
+  if (!AntwortPruefen()) return false;
+  aufgabe_.wertUebernehmen(u_.antwort);
+  ansicht_.neuZeichnen(true);
+  return true;
 }
 
 // ---- A lost link ----

@@ -60,8 +60,8 @@ class Messzyklus {
   bool laeuft() const { return laeuft_; }
   bool imTick() const { return imTick_; }
 
-  /// Shows the mounting and the filter that the user has set, if the head is online. The limits of the
-  /// telegrams become those of that filter, in any case.
+  /// Shows the mounting, and the filter that the user has set where no simulated head is named in its place.
+  /// The limits of the telegrams become those of that filter, in any case.
   void kopfZeigen();
 
   /// Ends a running measurement with all that belongs to it; nothing without one.
@@ -108,7 +108,9 @@ class Messzyklus {
   void tastenFrei(TastenListe tasten, bool frei);
   void statusIcons();
   bool frage(char befehl, double limit);
-  /// Quality check of the answer, and the reading to the task if it is good; false if it was refused.
+  /// The quality check of an answer, with all that is shown of it; false if its light refuses it.
+  bool AntwortPruefen();
+  /// The checked reading to the task; false if it was refused.
   bool uebernehmen();
   void icon(const char* schluessel);
   void verbindungVerloren();

@@ -69,18 +69,24 @@ TEST_F(CycleHookTest, TaskActsAfterAStoredSinglePointAlone) {
   EXPECT_EQ(task.pointsShown, 1) << "running";
 }
 
-TEST_F(CycleHookTest, PictureOfTheHeadFollowsTheTaskWhileOnline) {
+TEST_F(CycleHookTest, PictureOfTheHeadFollowsTheTask) {
   task.mounting = 3;
   world.system.FilterVorgabe = '4';
   cycle.emplace(world.surroundings(), world.head, task, view);
   cycle->kopfZeigen();
-  EXPECT_EQ(view.mounting, "");
-  EXPECT_EQ(view.cameraLine, "");
-  EXPECT_EQ(world.korCom.MesszeitLimit(), 20) << "the limits follow the filter offline, too";
-  cycle->M_KVNOnline();
-  cycle->kopfZeigen();
   EXPECT_EQ(view.mounting, "ICON57");
   EXPECT_EQ(view.cameraLine, "D3003: " + world.korCom.FilterText('4', world.dictionary));
+}
+
+TEST_F(CycleHookTest, SimulatedHeadKeepsItsLine) {
+  task.mounting = 1;
+  cycle.emplace(world.surroundings(), world.head, task, view);
+  cycle->M_KVNSimulation();
+  world.system.FilterVorgabe = '4';
+  cycle->kopfZeigen();
+  EXPECT_EQ(view.mounting, "ICON55");
+  EXPECT_EQ(view.cameraLine, "Simulation only");
+  EXPECT_EQ(world.korCom.MesszeitLimit(), 20) << "the limits follow the filter all the same";
 }
 
 TEST_F(CycleHookTest, PositionShowsTheHeadOnlyWhenAsked) {

@@ -54,6 +54,16 @@ TEST_F(GeradErfassungTest, RunLocksItsKeysAndTurnsTheValuesWhite) {
   EXPECT_EQ(view.valueColour, FarbeWeiss);
 }
 
+TEST_F(GeradErfassungTest, ValuesAreWhiteBeforeTheFirstAnswerOfARun) {
+  std::vector<Farbe> before;
+  whenAsked('J', [&] {
+    if (before.empty()) before = view.valueColours;
+  });
+  startRun();
+  run(0.1);
+  EXPECT_EQ(before, std::vector<Farbe>{FarbeWeiss});
+}
+
 TEST_F(GeradErfassungTest, FastRunLocksItsKeysAndSendsItsLevel) {
   world.system.FilterVorgabe = '1';
   startRun('Q');
