@@ -155,5 +155,31 @@ TEST_F(StationTest, TheMeasuringWindowOpensThemWithItsPlan) {
   EXPECT_TRUE(dialog.planOffered);
 }
 
+TEST_F(StationTest, TheMeasuringWindowOpensThePrintDialog) {
+  ASSERT_TRUE(start());
+  bool shown = false;
+  QTimer user;
+  QTimer reader;  // the timer that opened a dialog is not called while it is open
+  reader.callOnTimeout([&] {
+    QWidget* top = QApplication::activeModalWidget();
+    if (top == nullptr || top->objectName() != QLatin1String("FormDruckInfoO")) return;
+    shown = true;
+    top->findChild<QPushButton*>(QStringLiteral("CommandDruckAbbrechen(1)"))->click();
+  });
+  reader.start(5);
+  user.callOnTimeout([&] {
+    QWidget* top = QApplication::activeModalWidget();
+    if (top == nullptr || top->objectName() != QLatin1String("FormPosition")) return;
+    if (!shown) {
+      top->findChild<QAction*>(QStringLiteral("M_ProtokollDrucken"))->trigger();
+    } else {
+      top->close();
+    }
+  });
+  user.start(5);
+  station->window().findChild<QAction*>(QStringLiteral("M_Position"))->trigger();
+  EXPECT_TRUE(shown);
+}
+
 }  // namespace
 }  // namespace korvin
