@@ -19,21 +19,16 @@ double inSteps(double pixels) {
 
 }  // namespace
 
-MarkStamp& StampBox::get(const MarkStamp::Shape& shape) {
-  if (last_ != nullptr && last_->shape() == shape) return *last_;
+const MarkStamp& StampBox::get(const MarkStamp::Shape& shape) {
   const auto found = std::find_if(stamps_.begin(), stamps_.end(),
                                   [&](const MarkStamp& stamp) { return stamp.shape() == shape; });
-  if (found != stamps_.end()) {
-    last_ = &*found;
-  } else {
-    if (stamps_.size() == stampsKept) stamps_.pop_front();
-    last_ = &stamps_.emplace_back(shape);
-  }
-  return *last_;
+  if (found != stamps_.end()) return *found;
+  if (stamps_.size() == stampsKept) stamps_.pop_front();
+  return stamps_.emplace_back(shape);
 }
 
 ImageSurface::ImageSurface(QImage& picture, const PictureMetrics& metrics, StampBox& stamps)
-    : PainterSurface(metrics, Edges::crisp), picture_(picture), stamps_(stamps) {}
+    : PainterSurface(metrics, Edges::crisp), picture_(picture), stamps_(stamps), pixels_(picture) {}
 
 QPainter& ImageSurface::painter() {
   if (!painter_.isActive()) {
@@ -47,32 +42,59 @@ void ImageSurface::touched(const QRectF& area) {
   changed_ |= area.toAlignedRect();
 }
 
-bool ImageSurface::press(DataPoint centre, const MarkStamp::Shape& shape) {
-  if (!(shape.outer <= largestStamp)) return false;
+void ImageSurface::setWindow(const DataWindow& window) {
+  PainterSurface::setWindow(window);
+  marker_ = {};
+}
+
+const MarkStamp* ImageSurface::stampOf(const Marker& marker) {
+  if (marker == marker_) return stamp_;
+  marker_ = marker;
+  stamp_ = nullptr;
+  const double r = radiusOnPicture(marker.radius);
+  const double half = marker.width * metrics().lineWidth / 2;
+  if (!(r + half <= largestStamp)) return nullptr;
+  const QRgb colour = qColour(marker.colour).rgb();
+  const MarkStamp::Shape disc{std::max(0.5, inSteps(r)), 0, colour};
+  const MarkStamp::Shape ring{std::max(0.5, inSteps(r + half)), inSteps(r - half), colour};
+  stamp_ = &stamps_.get(marker.width > 0 ? ring : disc);
+  return stamp_;
+}
+
+void ImageSurface::press(const MarkStamp& stamp, DataPoint centre) {
   const QPointF middle = place(centre);
-  const double margin = largestStamp + 1;
-  const bool seen = middle.x() > -margin && middle.y() > -margin && middle.x() < picture_.width() + margin &&
-                    middle.y() < picture_.height() + margin;
-  if (seen) {
-    changed_ |= stamps_.get(shape).press(picture_, static_cast<int>(std::floor(middle.x())),
-                                         static_cast<int>(std::floor(middle.y())));
-  }
-  return true;
+  constexpr int margin = static_cast<int>(largestStamp) + 2;
+  const bool seen = middle.x() > -margin && middle.y() > -margin && middle.x() < pixels_.width + margin &&
+                    middle.y() < pixels_.height + margin;
+  if (!seen) return;
+  // Rounded down: what is cut off here is positive.
+  const int x = static_cast<int>(middle.x() + margin) - margin;
+  const int y = static_cast<int>(middle.y() + margin) - margin;
+  stamp.press(pixels_, x, y);
+  const int reach = stamp.reach();
+  if (pressed_.isNull()) pressed_ = QRect(x, y, 1, 1);
+  pressed_.setCoords(std::min(pressed_.left(), x - reach), std::min(pressed_.top(), y - reach),
+                     std::max(pressed_.right(), x + reach), std::max(pressed_.bottom(), y + reach));
 }
 
 void ImageSurface::circle(DataPoint centre, double radius, const Stroke& stroke) {
   if (!std::isfinite(radius)) return;
-  const double r = radiusOnPicture(radius);
-  const double half = widthOnPicture(stroke) / 2;
-  const bool stamped = stroke.style == LineStyle::solid &&
-                       press(centre, {inSteps(r + half), inSteps(r - half), qColour(stroke.colour).rgb()});
-  if (!stamped) PainterSurface::circle(centre, radius, stroke);
+  const MarkStamp* stamp =
+      stroke.style == LineStyle::solid ? stampOf({radius, stroke.width, stroke.colour}) : nullptr;
+  if (stamp != nullptr) {
+    press(*stamp, centre);
+  } else {
+    PainterSurface::circle(centre, radius, stroke);
+  }
 }
 
 void ImageSurface::disc(DataPoint centre, double radius, Farbe colour) {
   if (!std::isfinite(radius)) return;
-  const double r = std::max(0.5, inSteps(radiusOnPicture(radius)));
-  if (!press(centre, {r, 0, qColour(colour).rgb()})) PainterSurface::disc(centre, radius, colour);
+  if (const MarkStamp* stamp = stampOf({radius, 0, colour})) {
+    press(*stamp, centre);
+  } else {
+    PainterSurface::disc(centre, radius, colour);
+  }
 }
 
 }  // namespace korvin

@@ -12,11 +12,10 @@ namespace korvin {
 /// The stamps in use, kept from drawing to drawing.
 class StampBox {
  public:
-  MarkStamp& get(const MarkStamp::Shape& shape);
+  const MarkStamp& get(const MarkStamp::Shape& shape);
 
  private:
   std::deque<MarkStamp> stamps_;
-  MarkStamp* last_ = nullptr;
 };
 
 /// Draws a diagram into a picture of pixels: lines crisp, small circles and discs by ready stamps at whole
@@ -28,23 +27,38 @@ class ImageSurface : public PainterSurface {
  public:
   ImageSurface(QImage& picture, const PictureMetrics& metrics, StampBox& stamps);
 
+  void setWindow(const DataWindow& window) override;
   void circle(DataPoint centre, double radius, const Stroke& stroke) override;
   void disc(DataPoint centre, double radius, Farbe colour) override;
 
   /// All pixels that were drawn on; empty if there are none.
-  QRect changed() const { return changed_ & picture_.rect(); }
+  QRect changed() const { return (changed_ | pressed_) & picture_.rect(); }
 
  protected:
   QPainter& painter() override;
   void touched(const QRectF& area) override;
 
  private:
-  bool press(DataPoint centre, const MarkStamp::Shape& shape);
+  /// The stamp of the last circle or disc, for the next one that looks the same.
+  struct Marker {
+    double radius = -1;
+    double width = 0;  ///< of the line; 0 for a disc
+    Farbe colour = 0;
+    friend bool operator==(const Marker&, const Marker&) = default;
+  };
+
+  /// Null for a marker that is too large to be stamped.
+  const MarkStamp* stampOf(const Marker& marker);
+  void press(const MarkStamp& stamp, DataPoint centre);
 
   QImage& picture_;
   StampBox& stamps_;
   QPainter painter_;  ///< begun with the first thing that needs it
+  Pixels pixels_;
   QRect changed_;
+  QRect pressed_;  ///< the same for the stamps
+  Marker marker_;
+  const MarkStamp* stamp_ = nullptr;
 };
 
 }  // namespace korvin

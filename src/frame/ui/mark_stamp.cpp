@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <cstdlib>
+#include <cstring>
 
 namespace korvin {
 namespace {
@@ -37,54 +39,83 @@ QRgb mixed(QRgb ground, QRgb colour, std::uint32_t alpha) {
   return redBlue | alphaGreen;
 }
 
+/// Two pixels, channel by channel: what the processor multiplies in one step. The compilers' own
+/// vectors, which become plain loops where a processor has none.
+using Bytes = std::uint8_t __attribute__((vector_size(8)));
+using Words = std::uint16_t __attribute__((vector_size(16)));
+
+/// Puts two pixels of a stamp on those at `ground`.
+inline void blend(std::uint8_t* ground, const std::uint16_t* keep, const std::uint16_t* add) {
+  Bytes bytes;
+  Words kept;
+  Words added;
+  std::memcpy(&bytes, ground, sizeof bytes);
+  std::memcpy(&kept, keep, sizeof kept);
+  std::memcpy(&added, add, sizeof added);
+  const Words sum = (__builtin_convertvector(bytes, Words) * kept + added) >> 8;
+  bytes = __builtin_convertvector(sum, Bytes);
+  std::memcpy(ground, &bytes, sizeof bytes);
+}
+
 }  // namespace
 
 MarkStamp::MarkStamp(const Shape& shape)
-    : shape_(shape), reach_(static_cast<int>(std::ceil(std::max(0.0, shape.outer - 0.5)))) {
+    : shape_(shape),
+      reach_(static_cast<int>(std::ceil(std::max(0.0, shape.outer - 0.5)))),
+      pairsPerRow_(reach_ + 1) {
   shape_.colour |= 0xff000000;
   for (int dy = -reach_; dy <= reach_; ++dy) {
-    for (int dx = -reach_; dx <= reach_; ++dx) {
-      const std::uint32_t alpha = coverage(shape_, dx, dy);
-      if (alpha > 0) dots_.push_back({static_cast<std::int16_t>(dx), static_cast<std::int16_t>(dy), alpha});
+    for (int dx = -reach_; dx <= reach_; ++dx) alpha_.push_back(coverage(shape_, dx, dy));
+  }
+  fillPairs();
+}
+
+std::uint32_t MarkStamp::alphaAt(int dx, int dy) const {
+  const bool within = std::abs(dx) <= reach_ && std::abs(dy) <= reach_;
+  return within ? alpha_[static_cast<std::size_t>((dy + reach_) * (2 * reach_ + 1) + dx + reach_)] : 0;
+}
+
+void MarkStamp::fillPairs() {
+  std::array<std::uint8_t, sizeof(QRgb)> channels{};  // in the order of the picture's bytes
+  std::memcpy(channels.data(), &shape_.colour, sizeof(QRgb));
+  for (int dy = -reach_; dy <= reach_; ++dy) {
+    for (int pair = 0; pair < pairsPerRow_; ++pair) {
+      Pair& made = pairs_.emplace_back();
+      for (std::size_t i = 0; i < made.keep.size(); ++i) {
+        const std::uint32_t alpha = alphaAt(2 * pair + static_cast<int>(i / 4) - reach_, dy);
+        made.keep[i] = static_cast<std::uint16_t>(full - alpha);
+        made.add[i] = static_cast<std::uint16_t>(channels[i % 4] * alpha);
+      }
     }
   }
 }
 
-void MarkStamp::layOut(std::ptrdiff_t pixelsPerLine) {
-  pixelsPerLine_ = pixelsPerLine;
-  solid_.clear();
-  blended_.clear();
-  for (const Dot& dot : dots_) {
-    const std::ptrdiff_t distance = dot.dy * pixelsPerLine + dot.dx;
-    if (dot.alpha == full) {
-      solid_.push_back(distance);
-    } else {
-      blended_.emplace_back(distance, dot.alpha);
-    }
+void MarkStamp::press(const Pixels& picture, int x, int y) const {
+  const int left = x - reach_;
+  const int top = y - reach_;
+  const int rows = 2 * reach_ + 1;
+  const bool whole =
+      left >= 0 && top >= 0 && left + 2 * pairsPerRow_ <= picture.width && top + rows <= picture.height;
+  if (!whole) {
+    pressPart(picture, x, y);
+    return;
+  }
+  std::uint8_t* row = picture.bytes + top * picture.bytesPerLine + std::ptrdiff_t{4} * left;
+  const Pair* pair = pairs_.data();
+  for (int i = 0; i < rows; ++i, row += picture.bytesPerLine) {
+    for (int k = 0; k < pairsPerRow_; ++k, ++pair) blend(row + 8 * k, pair->keep.data(), pair->add.data());
   }
 }
 
-QRect MarkStamp::press(QImage& picture, int x, int y) {
-  const std::ptrdiff_t pixelsPerLine = picture.bytesPerLine() / std::ptrdiff_t{sizeof(QRgb)};
-  if (pixelsPerLine != pixelsPerLine_) layOut(pixelsPerLine);
-  auto* const pixels = reinterpret_cast<QRgb*>(picture.bits());
-  const QRect area(x - reach_, y - reach_, 2 * reach_ + 1, 2 * reach_ + 1);
-  if (x >= reach_ && y >= reach_ && x < picture.width() - reach_ && y < picture.height() - reach_) {
-    QRgb* const middle = pixels + y * pixelsPerLine + x;
-    const QRgb colour = shape_.colour;
-    for (const std::ptrdiff_t distance : solid_) middle[distance] = colour;
-    for (const auto& [distance, alpha] : blended_) {
-      middle[distance] = mixed(middle[distance], colour, alpha);
+void MarkStamp::pressPart(const Pixels& picture, int x, int y) const {
+  const int bottom = std::min(y + reach_, picture.height - 1);
+  const int right = std::min(x + reach_, picture.width - 1);
+  for (int row = std::max(y - reach_, 0); row <= bottom; ++row) {
+    auto* const pixels = reinterpret_cast<QRgb*>(picture.bytes + row * picture.bytesPerLine);
+    for (int column = std::max(x - reach_, 0); column <= right; ++column) {
+      pixels[column] = mixed(pixels[column], shape_.colour, alphaAt(column - x, row - y));
     }
-    return area;
   }
-  const QRect inside = area & picture.rect();
-  for (const Dot& dot : dots_) {
-    if (!inside.contains(x + dot.dx, y + dot.dy)) continue;
-    QRgb& pixel = pixels[(y + dot.dy) * pixelsPerLine + x + dot.dx];
-    pixel = mixed(pixel, shape_.colour, dot.alpha);
-  }
-  return inside;
 }
 
 }  // namespace korvin

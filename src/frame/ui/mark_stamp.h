@@ -1,12 +1,27 @@
 #pragma once
 
 #include <QImage>
-#include <QRect>
 #include <QRgb>
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
 namespace korvin {
+
+/// The pixels of an opaque picture with 32 bits each, for as long as no one else touches it.
+struct Pixels {
+  explicit Pixels(QImage& picture)
+      : bytes(picture.bits()),
+        bytesPerLine(static_cast<std::ptrdiff_t>(picture.bytesPerLine())),
+        width(picture.width()),
+        height(picture.height()) {}
+
+  std::uint8_t* bytes;
+  std::ptrdiff_t bytesPerLine;
+  int width;
+  int height;
+};
 
 /// A small round mark, ready to be pressed into a picture of pixels: a disc, or the ring of a circle. Its
 /// smooth edge is computed once; each impression is then a handful of pixels, and all of them look the same.
@@ -24,25 +39,29 @@ class MarkStamp {
 
   const Shape& shape() const { return shape_; }
 
-  /// Presses the mark into `picture` (32 bits a pixel, opaque) around the pixel (x, y), as far as it lies
-  /// within. Returns the area that it may have changed.
-  QRect press(QImage& picture, int x, int y);
+  /// Presses the mark into `picture` around the pixel (x, y), as far as it lies within.
+  void press(const Pixels& picture, int x, int y) const;
+
+  /// How far it reaches from its middle pixel, in pixels.
+  int reach() const { return reach_; }
 
  private:
-  struct Dot {
-    std::int16_t dx;
-    std::int16_t dy;
-    std::uint32_t alpha;  ///< 1 to 256
+  /// Two pixels beside each other, channel by channel: what is kept of the ground (of 256), and what is added
+  /// (in 256ths).
+  struct Pair {
+    std::array<std::uint16_t, 8> keep{};
+    std::array<std::uint16_t, 8> add{};
   };
 
-  void layOut(std::ptrdiff_t pixelsPerLine);
+  void pressPart(const Pixels& picture, int x, int y) const;
+  std::uint32_t alphaAt(int dx, int dy) const;
+  void fillPairs();
 
   Shape shape_;
   int reach_;
-  std::vector<Dot> dots_;
-  std::ptrdiff_t pixelsPerLine_ = 0;
-  std::vector<std::ptrdiff_t> solid_;                              ///< distances from the middle pixel
-  std::vector<std::pair<std::ptrdiff_t, std::uint32_t>> blended_;  ///< the same with their alpha
+  int pairsPerRow_;
+  std::vector<std::uint32_t> alpha_;  ///< 0 to 256, row by row
+  std::vector<Pair> pairs_;           ///< row by row, each filled up with an untouched pixel
 };
 
 }  // namespace korvin

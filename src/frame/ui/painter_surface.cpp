@@ -98,10 +98,6 @@ void PainterSurface::setWindow(const DataWindow& window) {
             metrics_.size.height() / (window.bottom - window.top)};
 }
 
-QPointF PainterSurface::place(DataPoint point) const {
-  return {(point.x - window_.left) * scale_.x, (point.y - window_.top) * scale_.y};
-}
-
 double PainterSurface::radiusOnPicture(double radius) const {
   return radius * std::fabs(scale_.x);
 }

@@ -47,7 +47,9 @@ class PainterSurface : public DrawingSurface {
   DataSize lineWidth() override;
 
   /// Where a data point lies, in units of the painter.
-  QPointF place(DataPoint point) const;
+  QPointF place(DataPoint point) const {
+    return {(point.x - window_.left) * scale_.x, (point.y - window_.top) * scale_.y};
+  }
 
  protected:
   /// For a surface that makes its painter when one is needed first; see `painter()`.
