@@ -55,9 +55,11 @@ TEST_F(GeradErfassungTest, RunLocksItsKeysAndTurnsTheValuesWhite) {
 }
 
 TEST_F(GeradErfassungTest, ValuesAreWhiteBeforeTheFirstAnswerOfARun) {
+  bool asked = false;
   std::vector<Farbe> before;
   whenAsked('J', [&] {
-    if (before.empty()) before = view.valueColours;
+    if (!asked) before = view.valueColours;
+    asked = true;
   });
   startRun();
   run(0.1);
