@@ -8,6 +8,7 @@
 #include <stdexcept>
 
 #include "frame/leerwert.h"
+#include "frame/zahl_text.h"
 
 namespace korvin {
 namespace {
@@ -69,7 +70,24 @@ std::size_t pointCount(std::span<const double> werte) {
   return static_cast<std::size_t>(werte.front());
 }
 
+/// Where the number of a range's label begins and where its unit does.
+struct LabelParts {
+  explicit LabelParts(std::string_view text)
+      : number(text.find_first_of("0123456789")), unit(text.find_first_not_of("0123456789.", number)) {}
+  std::size_t number;
+  std::size_t unit;
+};
+
 }  // namespace
+
+std::string_view bereichsEinheit(const DiagrammBereich& bereich) {
+  return bereich.text.substr(LabelParts(bereich.text).unit);
+}
+
+double bereichsZahl(const DiagrammBereich& bereich) {
+  const LabelParts parts(bereich.text);
+  return zahlAusText(bereich.text.substr(parts.number, parts.unit - parts.number));
+}
 
 DiagrammBereich bereichAnpassen(double wert, int Masssystem) {
   const Rung& rung = *rungFor(ladderOf(Masssystem), wert);

@@ -17,6 +17,10 @@ struct DiagrammBereich {
   std::string_view text;  ///< label: "±5um", "±0.2mil"
 };
 
+/// The unit that the label tells, "um", "mm", "mil" or "in", and the half range in it.
+std::string_view bereichsEinheit(const DiagrammBereich& bereich);
+double bereichsZahl(const DiagrammBereich& bereich);
+
 /// The smallest rung that isn't below `wert`. Above the ladder it is the top rung (such points lie outside
 /// the diagram); 0, negative values and NaN give the bottom rung.
 DiagrammBereich bereichAnpassen(double wert, int Masssystem);

@@ -5,7 +5,6 @@
 #include <string_view>
 
 #include "frame/number_format.h"
-#include "frame/zahl_text.h"
 #include "position/xy_labels.h"
 
 namespace korvin {
@@ -51,20 +50,6 @@ std::string musterFuer(double schritt, int mindestens) {
   return muster;
 }
 
-/// Where the number of a range's label begins and where its unit does.
-struct BereichsText {
-  explicit BereichsText(std::string_view text)
-      : zahl(text.find_first_of("0123456789")), einheit(text.find_first_not_of("0123456789.", zahl)) {}
-  std::size_t zahl;
-  std::size_t einheit;
-};
-
-/// The half range in the unit of its label.
-double bereichsZahl(const DiagrammBereich& bereich) {
-  const BereichsText stellen(bereich.text);
-  return zahlAusText(bereich.text.substr(stellen.zahl, stellen.einheit - stellen.zahl));
-}
-
 }  // namespace
 
 DataWindow xyFenster(double Rx, double Ry) {
@@ -78,7 +63,7 @@ double xyTeilstrich(double bereich, int i) {
 }
 
 std::string xyBereichsEinheit(const DiagrammBereich& bereich) {
-  return std::string(bereich.text.substr(BereichsText(bereich.text).einheit));
+  return std::string(bereichsEinheit(bereich));
 }
 
 XYBeschriftung xyPapierBeschriftung(const DiagrammBereich& X, const DiagrammBereich& Y) {

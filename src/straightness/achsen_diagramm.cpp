@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <utility>
 
 #include "frame/leerwert.h"
 #include "straightness/achsen_beschriftung.h"
+#include "straightness/masseinheit.h"
 
 namespace korvin {
 namespace {
@@ -44,7 +46,13 @@ void achsenZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen) {
 }
 
 void texteZeichnen(DrawingSurface& surface, const std::vector<AchsenText>& texte) {
-  for (const AchsenText& text : texte) surface.text(text.ort, text.text, text.look, text.anker);
+  for (const AchsenText& text : texte) {
+    if (text.imFeld) {
+      const DataWindow feld = raum(surface, text);
+      surface.fill({feld.left, feld.top}, {feld.right, feld.bottom}, FarbeAchsenGrund);
+    }
+    surface.text(text.ort, text.text, text.look, text.anker);
+  }
 }
 
 void markeZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen, const AchsenMarke& marke) {
@@ -71,22 +79,22 @@ void linienZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen,
 /// The short texts of the lines on one side, moved clear of each other.
 void linienTexteZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen,
                          const std::vector<AchsenZusatzlinie>& linien, AchsenZusatzlinie::Seite seite) {
-  std::vector<const AchsenZusatzlinie*> beschriftet;
+  const bool rechts = seite == AchsenZusatzlinie::Seite::rechts;
+  const double abstand = 2 * surface.lineWidth().width;
+  const double z = (rechts ? letztesZ(rahmen) : erstesZ(rahmen)) + abstand;
+  std::vector<AchsenText> texte;
   std::vector<double> mitten;
   for (const AchsenZusatzlinie& linie : linien) {
     if (linie.seite != seite || linie.text.empty() || !(std::fabs(linie.hoehe) < rahmen.R)) continue;
-    beschriftet.push_back(&linie);
     mitten.push_back(linie.hoehe);
+    // Within the plot they would stand on their own lines.
+    texte.push_back(
+        {linie.text, {z, 0}, {HorizontalAnchor::left, VerticalAnchor::middle}, {linie.farbe}, !rechts});
   }
-  if (beschriftet.empty()) return;
-  const bool rechts = seite == AchsenZusatzlinie::Seite::rechts;
-  const double abstand = 2 * surface.lineWidth().width;
-  mitten = auseinander(mitten, surface.textSize("x", {}).height);
-  for (std::size_t i = 0; i < beschriftet.size(); ++i) {
-    const double z = rechts ? letztesZ(rahmen) + abstand : erstesZ(rahmen) + abstand;
-    surface.text({z, mitten[i]}, beschriftet[i]->text, {beschriftet[i]->farbe},
-                 {HorizontalAnchor::left, VerticalAnchor::middle});
-  }
+  mitten =
+      auseinander(std::move(mitten), surface.textSize("x", {}).height, -rahmen.R, achsenFenster(rahmen).top);
+  for (std::size_t i = 0; i < texte.size(); ++i) texte[i].ort.y = mitten[i];
+  texteZeichnen(surface, texte);
 }
 
 bool gleicheArt(const KurvenStueck& a, const KurvenStueck& b) {
@@ -117,22 +125,33 @@ void kurveZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen, const Ac
 
 }  // namespace
 
+void achsenPapierBeschriftung(AchsenRahmen& rahmen, const DiagrammBereich& bereich, bool mitZ,
+                              int Masssystem) {
+  const bool inch = Masssystem == MasssystemInch;
+  rahmen.einheit = bereichsEinheit(bereich);
+  rahmen.beschriftung.R = bereichsZahl(bereich);
+  if (!mitZ) return;
+  rahmen.beschriftung.punkte = {"[ MP]", " [MP]"};
+  rahmen.beschriftung.z = AchsenZeile{inch ? "z[in]" : "z[mm]", inch ? " [in]" : " [mm]"};
+  rahmen.beschriftung.mmJeEinheit = inch ? MmProInch : 1;
+}
+
 DataWindow achsenFenster(const AchsenRahmen& rahmen) {
-  const double dz = rahmen.Distanz / 50;
+  const double laenge = rahmen.Distanz > 0 ? rahmen.Distanz : 1;
+  const double dz = laenge / 50;
   const double dy = rahmen.R / 50;
-  return {-RandLinks * dz, rahmen.R + RandOben * dy, rahmen.Distanz + RandRechts * dz,
-          -rahmen.R - RandUnten * dy};
+  return {-RandLinks * dz, rahmen.R + RandOben * dy, laenge + RandRechts * dz, -rahmen.R - RandUnten * dy};
 }
 
 void achsenRahmenZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen) {
-  const DataWindow fenster = achsenFenster(rahmen);
-  surface.setWindow(fenster);
+  surface.setWindow(achsenFenster(rahmen));
   surface.clear(FarbeAchsenGrund);
   gitterZeichnen(surface, rahmen);
   achsenZeichnen(surface, rahmen);
-  texteZeichnen(surface, punktNummern(surface, rahmen));
-  texteZeichnen(surface, hoehen(surface, rahmen));
-  surface.text({fenster.left, fenster.top}, "[" + rahmen.einheit + "]", {FarbeAchsenText}, {});
+  texteZeichnen(surface, punktZeilen(surface, rahmen));
+  const std::vector<AchsenText> links = hoehen(surface, rahmen);
+  texteZeichnen(surface, links);
+  texteZeichnen(surface, {einheitenText(surface, rahmen, links)});
 }
 
 void achsenInhaltZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen, const AchsenInhalt& inhalt) {

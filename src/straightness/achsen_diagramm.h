@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "frame/bereich.h"
 #include "frame/drawing_surface.h"
 #include "straightness/achsen_kurve.h"
 
@@ -20,6 +21,22 @@ inline constexpr Farbe FarbeKurve = 0x0000FF;         ///< from value to value: 
 inline constexpr Farbe FarbeUeberbrueckt = 0x00FFFF;  ///< over open points: yellow
 inline constexpr Farbe FarbeCursor = 0x000000;
 
+/// A row of values below the diagram.
+struct AchsenZeile {
+  std::string anfang;  ///< at the left edge
+  std::string ende;    ///< behind the last value, as far as it belongs to it with a blank before
+};
+
+/// How the frame is labelled. As it stands it is the screen's way; paper's is `achsenPapierBeschriftung`.
+struct AchsenBeschriftung {
+  AchsenZeile punkte{"", " [MP]"};  ///< numbers of the points
+  std::optional<AchsenZeile> z;     ///< a row of their z below them
+  double mmJeEinheit = 1;           ///< of that row: 1 mm, 25.4 inch
+  /// The half range as the heights tell it, with one decimal at least: 20 for "±20um". 0: they tell it in the
+  /// unit of the data.
+  double R = 0;
+};
+
 /// What stands still while a line is measured.
 struct AchsenRahmen {
   double R = 1;               ///< half range, in the unit shown
@@ -27,7 +44,8 @@ struct AchsenRahmen {
   std::span<const double> z;  ///< z of the points in mm, from index 1
   std::int16_t AnzMPs = 0;    ///< number of points
   bool Gitter = true;         ///< horizontal grid lines; the vertical ones are always there
-  std::string einheit;        ///< "mm" or "mil"
+  std::string einheit;        ///< of the heights: "mm" or "mil"; on paper that of the range's label
+  AchsenBeschriftung beschriftung{};
 };
 
 /// One curve with its colours.
@@ -69,7 +87,12 @@ struct AchsenInhalt {
 /// the units shown (deviations mm or mil, z mm), and evaluates nothing. Drawn in two layers, each on a
 /// surface with the window `achsenFenster`.
 
-/// Data coordinates of the picture's corners.
+/// Labels `rahmen` as on paper: heights in the unit of the label of `bereich`, and, with `mitZ`, the z of the
+/// points in mm or inch (`Masssystem` 1) below their numbers.
+void achsenPapierBeschriftung(AchsenRahmen& rahmen, const DiagrammBereich& bereich, bool mitZ,
+                              int Masssystem);
+
+/// Data coordinates of the picture's corners. A line without a length counts as 1 mm long.
 DataWindow achsenFenster(const AchsenRahmen& rahmen);
 
 /// Clears the picture and draws grid, points, labels and unit.

@@ -128,5 +128,15 @@ TEST(Bereich, ACountBeyondTheArrayIsABoundsFailure) {
   EXPECT_THROW(bereichDerAchse(false, 0, 0, std::vector<double>{1e300, 0.5}), std::out_of_range);
 }
 
+TEST(BereichsText, TellsUnitAndNumber) {
+  EXPECT_EQ(bereichsEinheit(bereichAnpassen(0.02, 0)), "um");
+  EXPECT_EQ(bereichsZahl(bereichAnpassen(0.02, 0)), 20);
+  EXPECT_EQ(bereichsEinheit(bereichAnpassen(20, 0)), "mm");
+  EXPECT_EQ(bereichsEinheit(bereichAnpassen(0.05, 1)), "mil");
+  EXPECT_EQ(bereichsZahl(bereichAnpassen(0.05, 1)), 0.05);
+  EXPECT_EQ(bereichsEinheit(bereichAnpassen(1000, 1)), "in");
+  EXPECT_EQ(bereichsZahl(bereichAnpassen(1000, 1)), 1);
+}
+
 }  // namespace
 }  // namespace korvin

@@ -129,7 +129,7 @@ TEST(PunktNummern, NeverTouchEachOtherOrTheEdge) {
       const AchsenRahmen frame = frameOf(points, z);
       test::RecordingSurface surface(width, 300);
       surface.setWindow(achsenFenster(frame));
-      const auto numbers = punktNummern(surface, frame);
+      const auto numbers = punktZeilen(surface, frame);
       ASSERT_FALSE(numbers.empty());
       EXPECT_NE(numbers.back().text.find(" [MP]"), std::string::npos);
       for (std::size_t i = 0; i < numbers.size(); ++i) {
@@ -148,7 +148,7 @@ TEST(PunktNummern, StandUnderTheirPointsWhereThereIsRoom) {
   const AchsenRahmen frame = frameOf(11, z);
   test::RecordingSurface surface(1900, 300);
   surface.setWindow(achsenFenster(frame));
-  const auto numbers = punktNummern(surface, frame);
+  const auto numbers = punktZeilen(surface, frame);
   ASSERT_EQ(numbers.size(), 11U);
   for (std::size_t i = 0; i + 1 < numbers.size(); ++i) EXPECT_NEAR(numbers[i].ort.x, z[i + 1], 1e-9);
 }
@@ -163,22 +163,127 @@ TEST(Hoehen, ShrinkToTheMarginAsFarAsTheyStayLegible) {
   };
   EXPECT_EQ(sizeAt(1900), 1);
   EXPECT_LT(sizeAt(550), 1);
-  EXPECT_EQ(sizeAt(100), 0.7);
+  EXPECT_EQ(sizeAt(100), 0.8);
+}
+
+bool overlap(const DataWindow& a, const DataWindow& b) {
+  return a.left < b.right - 1e-9 && b.left < a.right - 1e-9 && a.bottom < b.top - 1e-9 &&
+         b.bottom < a.top - 1e-9;
+}
+
+TEST(AchsenRahmenZeichnen, ItsLabelsNeverCoverEachOther) {
+  for (const auto& [width, height] : {std::pair{260.0, 130.0}, std::pair{480.0, 170.0},
+                                      std::pair{700.0, 330.0}, std::pair{1900.0, 800.0}}) {
+    for (const double R : {0.002, 1.0, 20.0, 1000.0}) {
+      std::vector<double> z;
+      AchsenRahmen frame = frameOf(201, z);
+      frame.R = R;
+      frame.einheit = "mil";
+      test::RecordingSurface surface(width, height);
+      surface.setWindow(achsenFenster(frame));
+      std::vector<AchsenText> all = punktZeilen(surface, frame);
+      const std::vector<AchsenText> left = hoehen(surface, frame);
+      all.insert(all.end(), left.begin(), left.end());
+      all.push_back(einheitenText(surface, frame, left));
+      for (std::size_t a = 0; a < all.size(); ++a) {
+        const DataWindow box = raum(surface, all[a]);
+        EXPECT_LE(box.top, achsenFenster(frame).top + 1e-9);
+        EXPECT_GE(box.left, achsenFenster(frame).left - 1e-9);
+        for (std::size_t b = 0; b < a; ++b) {
+          EXPECT_FALSE(overlap(box, raum(surface, all[b])))
+              << all[a].text << " and " << all[b].text << " at " << width << ", " << R;
+        }
+      }
+    }
+  }
+}
+
+TEST(AchsenRahmenZeichnen, CoversTheGridUnderALabelThatReachesIntoThePlot) {
+  const auto covered = [](double width) {
+    std::vector<double> z;
+    AchsenRahmen frame = frameOf(6, z);
+    frame.R = 0.002;
+    frame.einheit = "mm";
+    test::RecordingSurface surface(width, 400);
+    achsenRahmenZeichnen(surface, frame);
+    return surface.all(Kind::fill).size();
+  };
+  EXPECT_EQ(covered(1900), 0U);
+  EXPECT_EQ(covered(500), 5U);  // all but the short "+ 0"
+  EXPECT_EQ(covered(250), 6U);
+}
+
+TEST(AchsenRahmenZeichnen, TheUnitStandsBesideTheHighestHeightInALowPicture) {
+  std::vector<double> z;
+  const AchsenRahmen frame = frameOf(6, z);
+  const auto unitAt = [&](double height) {
+    test::RecordingSurface surface(700, height);
+    surface.setWindow(achsenFenster(frame));
+    return einheitenText(surface, frame, hoehen(surface, frame)).ort.x;
+  };
+  EXPECT_LT(unitAt(330), achsenFenster(frame).left * 0.9);
+  EXPECT_GT(unitAt(140), 0);
+}
+
+TEST(AchsenFenster, HasALengthWithoutALine) {
+  AchsenRahmen frame;
+  frame.Distanz = 0;
+  EXPECT_EQ(achsenFenster(frame).right - achsenFenster(frame).left, 1.1);
+}
+
+Lines paperTexts(const DiagrammBereich& range, bool withZ, int system) {
+  std::vector<double> z;
+  AchsenRahmen frame = frameOf(5, z);
+  frame.R = range.bereich;
+  achsenPapierBeschriftung(frame, range, withZ, system);
+  test::RecordingSurface surface(1900, 900);
+  achsenRahmenZeichnen(surface, frame);
+  return surface.texts();
+}
+
+TEST(AchsenPapierBeschriftung, TellsHeightsInTheUnitOfTheRange) {
+  EXPECT_EQ(paperTexts(bereichAnpassen(0.02, 0), false, 0),
+            (Lines{"1", "2", "3", "4", "5 [MP]", "+ 16.0", "+ 8.0", "+ 0.0", "- 8.0", "- 16.0", "[um]"}));
+  EXPECT_EQ(paperTexts(bereichAnpassen(1000, 1), false, 1),
+            (Lines{"1", "2", "3", "4", "5 [MP]", "+ 0.8", "+ 0.4", "+ 0.0", "- 0.4", "- 0.8", "[in]"}));
+  EXPECT_EQ(paperTexts(bereichAnpassen(0.02, 1), false, 1)[5], "+ 0.016");
+}
+
+TEST(AchsenPapierBeschriftung, ShowsZBelowTheNumbers) {
+  const Lines mm = paperTexts(bereichAnpassen(0.02, 0), true, 0);
+  EXPECT_EQ(Lines(mm.begin(), mm.begin() + 12), (Lines{"[ MP]", "1", "2", "3", "4", "5 [MP]", "z[mm]", "0.0",
+                                                       "250.0", "500.0", "750.0", "1000.0 [mm]"}));
+  const Lines inch = paperTexts(bereichAnpassen(0.02, 1), true, 1);
+  EXPECT_EQ(inch[6], "z[in]");
+  EXPECT_EQ(inch[11], "39.4 [in]");
+}
+
+/// Texts of the height 1 with room enough.
+std::vector<double> apart(std::vector<double> middles) {
+  return auseinander(std::move(middles), 1, -100, 100);
 }
 
 TEST(Auseinander, MovesTextsAsLittleAsNeeded) {
-  EXPECT_EQ(auseinander({0, 5}, 1), (std::vector<double>{0, 5}));
-  EXPECT_EQ(auseinander({5, 0}, 1), (std::vector<double>{5, 0}));
-  EXPECT_EQ(auseinander({0, 0}, 1), (std::vector<double>{-0.5, 0.5}));
-  EXPECT_EQ(auseinander({2, 0, 2.5}, 1), (std::vector<double>{1.75, 0, 2.75}));
-  EXPECT_TRUE(auseinander({}, 1).empty());
+  EXPECT_EQ(apart({0, 5}), (std::vector<double>{0, 5}));
+  EXPECT_EQ(apart({5, 0}), (std::vector<double>{5, 0}));
+  EXPECT_EQ(apart({0, 0}), (std::vector<double>{-0.5, 0.5}));
+  EXPECT_EQ(apart({2, 0, 2.5}), (std::vector<double>{1.75, 0, 2.75}));
+  EXPECT_TRUE(apart({}).empty());
 }
 
 TEST(Auseinander, MovesChainsAsAWhole) {
-  const auto placed = auseinander({0, 0.1, 0.2, 1.6}, 1);
+  const auto placed = apart({0, 0.1, 0.2, 1.6});
   std::vector<double> sorted = placed;
   std::sort(sorted.begin(), sorted.end());
   for (std::size_t i = 1; i < sorted.size(); ++i) EXPECT_GE(sorted[i] - sorted[i - 1], 1 - 1e-12);
+}
+
+TEST(Auseinander, KeepsWithinItsLimits) {
+  EXPECT_EQ(auseinander({-2, 0}, 1, -2, 2), (std::vector<double>{-1.5, 0}));
+  EXPECT_EQ(auseinander({1.9, 1.9}, 1, -2, 2), (std::vector<double>{0.5, 1.5}));
+  // The lower group is pushed up against the next text, which joins it.
+  EXPECT_EQ(auseinander({-2, -2, -0.4}, 1, -2, 2), (std::vector<double>{-1.5, -0.5, 0.5}));
+  EXPECT_EQ(auseinander({0, 0, 0}, 1, -1, 1), (std::vector<double>{-0.5, 0.5, 1.5}));
 }
 
 TEST(AchsenInhaltZeichnen, DrawsTheCurveRedAndBridgesYellow) {
