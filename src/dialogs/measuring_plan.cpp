@@ -40,10 +40,23 @@ double endlicheZahl(const std::string& text) {
   return std::isfinite(zahl) ? zahl : 0;
 }
 
-/// Tells how `text` is read if it has characters beyond `erlaubt`.
-std::string zahlHinweis(const std::string& text, std::string_view erlaubt, double gelesen,
-                        Dictionary& dictionary) {
-  if (text.find_first_not_of(erlaubt) == std::string::npos && std::isfinite(zahlAusText(text))) return {};
+/// True if `text` is nothing but a number in digits, with a sign and a decimal mark at most, or blank.
+bool istSchlichteZahl(std::string_view text) {
+  constexpr std::string_view luecken = " \t";
+  constexpr std::string_view ziffern = "0123456789";
+  if (istLeerText(text)) return true;
+  text.remove_prefix(text.find_first_not_of(luecken));
+  text = text.substr(0, text.find_last_not_of(luecken) + 1);
+  if (text.starts_with('+') || text.starts_with('-')) text.remove_prefix(1);
+  const std::size_t marke = text.find_first_not_of(ziffern);
+  if (marke == std::string_view::npos) return !text.empty();
+  const bool mitMarke = text[marke] == '.' || text[marke] == ',';
+  return mitMarke && text.size() > 1 && text.find_first_not_of(ziffern, marke + 1) == std::string_view::npos;
+}
+
+/// Tells how `text` is read if that is not what it looks like.
+std::string zahlHinweis(const std::string& text, double gelesen, Dictionary& dictionary) {
+  if (istSchlichteZahl(text) && zahlAusText(text) == gelesen) return {};
   return dictionary.DicText(TextGiltAls) + ": " + formatGeneral(gelesen);
 }
 
@@ -78,8 +91,8 @@ void messplanSetzen(const MessplanTexte& plan, PositionsInfo& info) {
 
 MessplanHinweise messplanHinweise(const MessplanTexte& plan, Dictionary& dictionary) {
   return {
-      zahlHinweis(plan.anzahl, "0123456789+- ", ganzzahlAusText(plan.anzahl), dictionary),
-      zahlHinweis(plan.intervall, "0123456789+-., ", endlicheZahl(plan.intervall), dictionary),
+      zahlHinweis(plan.anzahl, ganzzahlAusText(plan.anzahl), dictionary),
+      zahlHinweis(plan.intervall, endlicheZahl(plan.intervall), dictionary),
       momentHinweis(plan.startDatum, plan.startZeit, TextStartSofort, dictionary),
       momentHinweis(plan.stopDatum, plan.stopZeit, TextStopSofort, dictionary),
   };

@@ -159,6 +159,22 @@ TEST_F(PlanHints, TellHowANumberIsRead) {
   EXPECT_EQ(hints({.intervall = std::string(400, '9')}).intervall, "D7480: 0");
 }
 
+TEST_F(PlanHints, TellOfANumberThatIsCutOffOrHeldWithinItsField) {
+  EXPECT_EQ(hints({.anzahl = "40000"}).anzahl, "D7480: 32767");
+  EXPECT_EQ(hints({.anzahl = "5-3"}).anzahl, "D7480: 5");
+  EXPECT_EQ(hints({.anzahl = "1 000"}).anzahl, "D7480: 1");
+  EXPECT_EQ(hints({.intervall = "1,5,2"}).intervall, "D7480: 1.5");
+  EXPECT_EQ(hints({.intervall = "-"}).intervall, "D7480: 0");
+  EXPECT_EQ(hints({.intervall = "."}).intervall, "D7480: 0");
+}
+
+TEST_F(PlanHints, SayNothingOfAPlainNumberHoweverItIsWritten) {
+  for (const char* text : {"", "  ", "7", " 7 ", "+7", "-7", "007", "7.", "7,0"})
+    EXPECT_EQ(hints({.anzahl = text}).anzahl, "") << text;
+  for (const char* text : {"0", ".5", "0,25", " 3600.125 "})
+    EXPECT_EQ(hints({.intervall = text}).intervall, "") << text;
+}
+
 TEST_F(PlanHints, TellWhatADateDoes) {
   EXPECT_EQ(hints({.startDatum = "tomorrow", .startZeit = "12:00:00"}).start, "D7481");
   EXPECT_EQ(hints({.startZeit = "12:00:00"}).start, "D7482");
