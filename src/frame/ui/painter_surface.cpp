@@ -1,7 +1,6 @@
 #include "frame/ui/painter_surface.h"
 
 #include <QApplication>
-#include <QFontMetricsF>
 #include <QPen>
 #include <QPolygonF>
 #include <algorithm>
@@ -204,25 +203,26 @@ void PainterSurface::fill(DataPoint corner, DataPoint opposite, Farbe colour) {
 
 // ---- Texts ----
 
-QFont PainterSurface::font(const TextLook& look) const {
+const PainterSurface::Letters& PainterSurface::letters(const TextLook& look) {
+  const int pixels = std::max(1, static_cast<int>(std::lround(metrics_.textPixels * look.size)));
+  if (letters_ && letters_->pixels == pixels && letters_->bold == look.bold) return *letters_;
   QFont font = QApplication::font();
-  font.setPixelSize(std::max(1, static_cast<int>(std::lround(metrics_.textPixels * look.size))));
+  font.setPixelSize(pixels);
   font.setBold(look.bold);
   // Coloured edges of letters look right on one screen only, and pictures travel.
   font.setStyleStrategy(QFont::NoSubpixelAntialias);
-  return font;
+  return letters_.emplace(Letters{pixels, look.bold, font, QFontMetricsF(font)});
 }
 
 DataSize PainterSurface::textSize(std::string_view utf8, const TextLook& look) {
-  const QFontMetricsF size(font(look));
+  const QFontMetricsF& size = letters(look).metrics;
   return {size.horizontalAdvance(qText(utf8)) / std::fabs(scale_.x), size.height() / std::fabs(scale_.y)};
 }
 
 void PainterSurface::text(DataPoint at, std::string_view utf8, const TextLook& look, Anchor anchor) {
   const QPointF told = place(at);
   if (!isFinite(at) || !isNear(told)) return;
-  const QFont letters = font(look);
-  const QFontMetricsF size(letters);
+  const QFontMetricsF& size = letters(look).metrics;
   const QString words = qText(utf8);
   const double width = size.horizontalAdvance(words);
   const double across = anchor.horizontal == HorizontalAnchor::left     ? 0
@@ -234,7 +234,7 @@ void PainterSurface::text(DataPoint at, std::string_view utf8, const TextLook& l
   QPointF corner = told - QPointF(across * width, down * size.height());
   if (edges_ == Edges::crisp) corner = QPointF(std::round(corner.x()), std::round(corner.y()));
   painter().setRenderHint(QPainter::TextAntialiasing);
-  painter().setFont(letters);
+  painter().setFont(letters(look).font);
   painter().setPen(qColour(look.colour));
   painter().drawText(corner + QPointF(0, size.ascent()), words);
   touched(boundsOf(corner, corner + QPointF(width, size.height()), 2));

@@ -1,10 +1,11 @@
 #pragma once
 
 #include <QFont>
-#include <QHash>
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QRectF>
 #include <QSizeF>
+#include <optional>
 
 #include "frame/drawing_surface.h"
 
@@ -70,13 +71,21 @@ class PainterSurface : public DrawingSurface {
   };
   bool alongAxis(QPointF from, QPointF to, const Stroke& stroke) const;
   void crispLine(QPointF from, QPointF to, const Stroke& stroke);
-  QFont font(const TextLook& look) const;
+  struct Letters {
+    int pixels = 0;
+    bool bold = false;
+    QFont font;
+    QFontMetricsF metrics;
+  };
+  /// Font and its measures, kept for the next text that looks the same.
+  const Letters& letters(const TextLook& look);
 
   QPainter* painter_ = nullptr;
   PictureMetrics metrics_;
   Edges edges_;
   DataWindow window_;
   Scale scale_;
+  std::optional<Letters> letters_;
 };
 
 }  // namespace korvin

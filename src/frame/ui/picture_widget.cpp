@@ -171,7 +171,9 @@ void PictureWidget::bringLayersUpToDate() {
     if (contents_.image.isNull()) {
       contents_.image = frame_.image.copy();
     } else {
-      std::copy_n(frame_.image.constBits(), frame_.image.sizeInBytes(), contents_.image.bits());
+      // Line by line: one large copy would go past the cache, and the points come next.
+      for (int y = 0; y < size.height(); ++y)
+        std::copy_n(frame_.image.constScanLine(y), frame_.image.bytesPerLine(), contents_.image.scanLine(y));
     }
     drawOn(contents_, [this](DrawingSurface& surface) { drawContents(surface); });
   }
