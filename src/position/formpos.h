@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "position/point_store.h"
 #include "position/record.h"
@@ -23,6 +24,11 @@ class FORMPOS {
   PositionsDatei& bild() { return bild_; }
   const PositionsDatei& bild() const { return bild_; }
 
+  /// Path of the file last loaded or saved, as it was chosen, UTF-8; the record may tell another one, since a
+  /// file that was moved keeps the path of its saving. Empty before the first.
+  std::string& dateiGewaehlt() { return dateiGewaehlt_; }
+  const std::string& dateiGewaehlt() const { return dateiGewaehlt_; }
+
   /// No points: cursor, count and statistics back to their start values, statistics switches off.
   void messungLoeschen();
 
@@ -42,6 +48,7 @@ class FORMPOS {
   PositionsDatei arbeit_;
   PositionsDatei bild_;
   PointStore punkte_;
+  std::string dateiGewaehlt_;
 };
 
 }  // namespace korvin

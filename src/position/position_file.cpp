@@ -69,6 +69,7 @@ bool PositionsDateien::o_DateiLaden(const std::string& rohName) {
   datei.Info.Geaendert = andereLaenge;
   u_.formpos.bild() = datei;
   u_.formpos.punkte().swap(gelesen_);
+  u_.formpos.dateiGewaehlt() = name;
   return true;
 }
 
@@ -92,6 +93,7 @@ bool PositionsDateien::o_DateiSpeichern(const std::string& rohName) {
       u_.files, {{name, [&kopf](SaveSink& sink) { sink.write(kopf); }},
                  {PositionReader::pointName(name), [&punkte](SaveSink& sink) { sink.write(punkte); }}});
   if (!melder_.gespeichert("o_DateiSpeichern", result)) return false;
+  u_.formpos.dateiGewaehlt() = name;
   // The present setting decides about the text copy; the record's own flag is only kept.
   if (!flagAusText(u_.profil.wert(einstellung::FormPosition::AsciiDatei))) return true;
   return o_AsciiDateiSpeichern(name + "$");

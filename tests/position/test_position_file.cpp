@@ -92,6 +92,20 @@ TEST_F(PositionFileTest, LoadingLeavesTheWorkingRecordAlone) {
   EXPECT_EQ(formpos.Info().SFak, 77);
 }
 
+TEST_F(PositionFileTest, TheChosenPathIsKeptWhateverTheRecordTells) {
+  EXPECT_EQ(formpos.dateiGewaehlt(), "");
+  folder.copyOf("reference/point.O");
+  folder.copyOf("reference/point.O1");
+  ASSERT_TRUE(load(folder.path("point.O")));
+  EXPECT_EQ(formpos.bild().Info.DateiName.trimmed(), "C:\\KorFiles\\Punkt.O");
+  EXPECT_EQ(formpos.dateiGewaehlt(), folder.path("point.O"));
+  EXPECT_FALSE(load(folder.path("missing.O")));
+  EXPECT_FALSE(save(folder.path("missing/other.O")));
+  EXPECT_EQ(formpos.dateiGewaehlt(), folder.path("point.O")) << "what failed leaves it";
+  ASSERT_TRUE(save(folder.path("other.O")));
+  EXPECT_EQ(formpos.dateiGewaehlt(), folder.path("other.O"));
+}
+
 TEST_F(PositionFileTest, OtherLengthIsTakenOnYesAndMarkedAsChanged) {
   folder.copyOf("reference/short.O1");
   messages.answers = {MessageAnswer::yes};

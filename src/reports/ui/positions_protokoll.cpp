@@ -1,6 +1,7 @@
 #include "reports/ui/positions_protokoll.h"
 
 #include "frame/cp1252.h"
+#include "frame/datei_kopf.h"
 #include "frame/ui/mouse_pointer.h"
 #include "reports/positions_bericht.h"
 
@@ -8,10 +9,13 @@ namespace korvin {
 
 namespace {
 
-/// The path in the record; a measurement that has no file yet has its folder only.
-std::string dateiName(const PositionsInfo& info) {
+/// The file that was chosen when the measurement was loaded or saved, whatever path its record keeps. A
+/// measurement that has no file yet has its folder only.
+std::string dateiName(const FORMPOS& formpos) {
   constexpr std::string_view ohneDatei = "*.O";
-  std::string name = vonCp1252(info.DateiName.trimmed());
+  if (formpos.Info().DateiStatus != DateiNeu && !formpos.dateiGewaehlt().empty())
+    return formpos.dateiGewaehlt();
+  std::string name = vonCp1252(formpos.Info().DateiName.trimmed());
   if (name.ends_with(ohneDatei)) name.resize(name.size() - ohneDatei.size());
   return name;
 }
@@ -26,13 +30,14 @@ DruckInfoFelder PositionsProtokoll::felder() {
           info.Geaendert,
           {std::ref(info.CheckXYDiagramm)},
           {std::ref(info.CheckXTabelle), std::ref(info.CheckYTabelle)},
-          dateiName(info)};
+          dateiName(u_.formpos)};
 }
 
 Bericht PositionsProtokoll::bericht() const {
   const PositionsDatei& datei = u_.formpos.arbeit();
-  return positionsBericht({datei, u_.formpos.punkte(), u_.dictionary, u_.clock, u_.system.Masssystem, {}},
-                          gewaehlteTeile(datei.Info));
+  return positionsBericht(
+      {datei, u_.formpos.punkte(), u_.dictionary, u_.clock, u_.system.Masssystem, dateiName(u_.formpos)},
+      gewaehlteTeile(datei.Info));
 }
 
 void PositionsProtokoll::drucken(QWidget* fenster) {

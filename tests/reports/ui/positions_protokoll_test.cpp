@@ -4,6 +4,7 @@
 
 #include <QCheckBox>
 
+#include "frame/datei_kopf.h"
 #include "frame/profil.h"
 #include "pdf_text.h"
 #include "position/position_file.h"
@@ -67,13 +68,25 @@ TEST_F(Protokoll, WhatIsChosenInTheDialogStandsInThePdf) {
 
 TEST_F(Protokoll, TheDialogShowsTheRecordsFileAndTexts) {
   whenShown("FormDruckInfoO", [this](QWidget& dialog) {
-    EXPECT_EQ(utf8Text(dialog.findChild<QLabel*>(QStringLiteral("lblDatei"))->text()), "Punkt.O");
+    EXPECT_EQ(utf8Text(dialog.findChild<QLabel*>(QStringLiteral("lblDatei"))->text()), "point.O");
     EXPECT_EQ(utf8Text(dialog.findChild<QLineEdit*>(QStringLiteral("TextDateiInfo(1)"))->text()), "M. Größ");
     press(dialog, "CommandDruckAbbrechen(1)");
   });
   protokoll.drucken(nullptr);
   EXPECT_FALSE(info().Geaendert);
   EXPECT_TRUE(fileDialog.requests.empty());
+}
+
+TEST_F(Protokoll, AFileThatWasRenamedIsCalledByTheNameThatWasChosen) {
+  EXPECT_EQ(info().DateiName.trimmed(), "C:\\KorFiles\\Punkt.O");
+  fileDialog.answers.push_back(target());
+  whenShown("FormDruckInfoO", [](QWidget& dialog) {
+    check(dialog, "CheckTabelle(0)");
+    press(dialog, "CommandPdf");
+  });
+  protokoll.drucken(nullptr);
+  EXPECT_EQ(fileDialog.requests.at(0).name, "point.pdf");
+  EXPECT_NEAR(wordOf(wordsOf(target()), "point.O").top, 37, 0.1);
 }
 
 TEST_F(Protokoll, ThePrinterGetsTheDiagramPage) {
@@ -88,6 +101,7 @@ TEST_F(Protokoll, ThePrinterGetsTheDiagramPage) {
 
 TEST_F(Protokoll, AMeasurementWithoutAFileHasANameForItsPdf) {
   info().DateiName = "/data/*.O";
+  info().DateiStatus = DateiNeu;
   whenShown("FormDruckInfoO", [](QWidget& dialog) {
     EXPECT_EQ(utf8Text(dialog.findChild<QLabel*>(QStringLiteral("lblPfad"))->text()), "/data");
     EXPECT_EQ(utf8Text(dialog.findChild<QLabel*>(QStringLiteral("lblDatei"))->text()), "");
