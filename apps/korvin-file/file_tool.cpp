@@ -155,6 +155,7 @@ class Run {
     const MeasuringKind* kind = kindOfHead(path);
     if (kind == nullptr) return {};  // refused when it is read
     const auto known = kind->reportParts();
+    if (known.empty()) return {};  // without a report; the file tells so
     for (const std::string& part : options_.parts) {
       if (!contains(known, part))
         throw OptionError("--parts " + part + ": the report of a *" + std::string(kind->extension()) +

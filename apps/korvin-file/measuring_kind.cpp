@@ -4,6 +4,7 @@
 
 #include "korvin-file/position_kind.h"
 #include "korvin-file/read_only_files.h"
+#include "korvin-file/straightness_kind.h"
 
 namespace korvin::file {
 namespace {
@@ -64,7 +65,7 @@ std::string readingTrouble(const FileError& error) {
 }
 
 const std::vector<const MeasuringKind*>& allKinds() {
-  static const std::vector<const MeasuringKind*> kinds{&positionKind()};
+  static const std::vector<const MeasuringKind*> kinds{&positionKind(), &straightnessKind()};
   return kinds;
 }
 

@@ -6,7 +6,7 @@
 //    its files are called, how they are read) and a class of `MeasuringFile` (what a file that was read can
 //    tell), and a function that gives the one kind:
 //
-//      const MeasuringKind& straightnessKind();
+//      const MeasuringKind& parallelKind();
 //
 // 2. Name that function in `allKinds()`, measuring_kind.cpp.
 // 3. Tell of the kind in the manual page (docs/man/korvin-file.1) and in the help (file_help.cpp).
@@ -46,7 +46,7 @@ struct Units {
 /// What a report is made with.
 struct ReportMeans {
   Units units;
-  std::vector<std::string> parts;  ///< names of `MeasuringKind::reportParts()`, at least one
+  std::vector<std::string> parts;  ///< names of `MeasuringKind::reportParts()`, at least one if it has any
   std::string path;                ///< of the measuring file, UTF-8; the report tells its last name
   Dictionary& dictionary;          ///< asked while the report is made, not later
   const Clock& clock;              ///< tells the time of printing; outlives the report
@@ -65,7 +65,7 @@ class MeasuringFile {
   virtual std::string textCopy(const Units& units, Dictionary& dictionary) const = 0;
   /// The table of `csv`: UTF-8, lines end with "\n".
   virtual std::string table(const Units& units) const = 0;
-  /// The printed report. It does not need the file any more.
+  /// The printed report. It does not need the file any more. Throws `FileProblem` if the kind has none.
   virtual Bericht report(const ReportMeans& means) const = 0;
 };
 
@@ -80,7 +80,7 @@ class MeasuringKind {
   virtual std::string_view extension() const = 0;
   /// Endings that the files beside a head have behind its name, such as "1".
   virtual std::vector<std::string_view> endingsBeside() const = 0;
-  /// Names of the parts of its report, in the order of the pages.
+  /// Names of the parts of its report, in the order of the pages; none if it has no report.
   virtual std::vector<std::string_view> reportParts() const = 0;
   /// Reads the measurement in `path`. Throws `FileProblem`.
   virtual std::unique_ptr<MeasuringFile> read(FileSystem& files, const std::string& path) const = 0;

@@ -62,6 +62,13 @@ Value Value::ofReading(double value) {
   return istLeer(value) ? Value{} : ofNumber(value);
 }
 
+Value Value::ofTruth(bool value) {
+  Value truth;
+  truth.kind = Kind::truth;
+  truth.text = value ? "true" : "false";
+  return truth;
+}
+
 Value Value::ofText(std::string utf8) {
   Value value;
   value.kind = Kind::text;

@@ -11,11 +11,11 @@ namespace korvin::file {
 
 /// What is told about a measuring file: a tree of named values, which is written as JSON or for the eye.
 struct Value {
-  enum class Kind { null, number, text, list, object };
+  enum class Kind { null, truth, number, text, list, object };
   using Member = std::pair<std::string, Value>;
 
   Kind kind = Kind::null;
-  std::string text;             ///< of a number its digits, of a text its UTF-8
+  std::string text;             ///< of a truth "true" or "false", of a number its digits, of a text its UTF-8
   std::vector<Value> list;      ///< of a list
   std::vector<Member> members;  ///< of an object, in the order in which they are told
 
@@ -24,6 +24,7 @@ struct Value {
   static Value ofNumber(long long value);
   /// The same, and null for the empty value: nothing was measured there.
   static Value ofReading(double value);
+  static Value ofTruth(bool value);
   static Value ofText(std::string utf8);
   static Value ofList(std::vector<Value> elements = {});
   static Value ofObject(std::vector<Member> members = {});

@@ -71,6 +71,7 @@ class JsonWriter {
       case Value::Kind::null:
         text_ += "null";
         return;
+      case Value::Kind::truth:
       case Value::Kind::number:
         text_ += value.text;
         return;
@@ -119,6 +120,7 @@ class JsonWriter {
 // ---- For the eye ----
 
 constexpr std::string_view columnGap = "  ";
+constexpr std::size_t lineWidth = 80;  ///< of a terminal
 
 std::string plain(const Value& value) {
   return value.kind == Value::Kind::null ? "-" : printable(value.text);
@@ -179,9 +181,26 @@ bool isTable(const Value& value) {
 
 void plainMembers(const Value& object, const std::string& indent, std::string& text);
 
+/// A list of plain values, as many to a line as fit.
+std::string plainRow(const Value& list, const std::string& indent) {
+  std::string text;
+  std::string line;
+  for (const Value& element : list.list) {
+    const std::string word = plain(element);
+    if (!line.empty() && characters(indent + line + word) + columnGap.size() > lineWidth) {
+      text += indent + line + "\n";
+      line.clear();
+    }
+    line += (line.empty() ? "" : std::string(columnGap)) + word;
+  }
+  return line.empty() ? text : text + indent + line + "\n";
+}
+
 void plainNested(const Value& value, const std::string& indent, std::string& text) {
   if (isTable(value)) {
     text += Table(value.list).text(indent);
+  } else if (value.kind == Value::Kind::list && isFlat(value)) {
+    text += plainRow(value, indent);
   } else if (value.kind == Value::Kind::object) {
     plainMembers(value, indent, text);
   } else {

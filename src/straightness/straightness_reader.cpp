@@ -4,11 +4,9 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
+#include <functional>
 #include <span>
-#include <type_traits>
 #include <utility>
-
-#include "straightness/older_forms.h"
 
 namespace korvin {
 namespace {
@@ -56,31 +54,38 @@ Kind pruefen(const GeradForm<N, MitBaudRate>& r) {
 }  // namespace
 
 template <class Form>
-StraightnessReadError StraightnessReader::readForm(GeradDatei& image) {
+StraightnessReadError StraightnessReader::readRecord(Form& record) {
   std::array<std::byte, recordSize<Form>()> bytes{};
   if (const FileError fehler = files_.read(0, bytes)) return {Kind::unreadable, fehler};
-  const auto gelesen = fromBytes<Form>(bytes);
-  if (const Kind grund = pruefen(gelesen); grund != Kind::none) return {grund, {}};
-  if constexpr (std::is_same_v<Form, GeradDatei>) {
-    image = gelesen;
-  } else {
-    alteFormUebernehmen(gelesen, image);
-  }
-  return {};
+  record = fromBytes<Form>(bytes);
+  return {pruefen(record), {}};
 }
 
-StraightnessReadError StraightnessReader::read(GeradDatei& image) {
+StraightnessReadError StraightnessReader::readForm(GeladeneForm& form) {
   if (error()) return {Kind::unreadable, error()};
+  // Each form is read beside `form`, which stays as it is after a failure.
+  const auto alsForm = [this, &form]<class Form>(Form gelesen, const auto& ergaenzt) {
+    const StraightnessReadError fehler = readRecord(gelesen);
+    if (!fehler) form = ergaenzt(gelesen);
+    return fehler;
+  };
   switch (length()) {
     case recordSize<GeradDatei>():
-      return readForm<GeradDatei>(image);
+      return alsForm(GeradDatei{}, std::identity{});
     case recordSize<GeradDateiVorher>():
-      return readForm<GeradDateiVorher>(image);
+      return alsForm(GeradDateiVorher{}, std::identity{});
     case recordSize<GeradDateiErste>():
-      return readForm<GeradDateiErste>(image);
+      return alsForm(GeradDateiErste{}, mitBaudRate);
     default:
       return {Kind::unknownForm, {}};
   }
+}
+
+StraightnessReadError StraightnessReader::read(GeradDatei& image) {
+  GeladeneForm form;
+  const StraightnessReadError fehler = readForm(form);
+  if (!fehler) formUebernehmen(form, image);
+  return fehler;
 }
 
 }  // namespace korvin

@@ -6,6 +6,7 @@
 #include "frame/file_error.h"
 #include "frame/file_group_reader.h"
 #include "frame/file_system.h"
+#include "straightness/older_forms.h"
 #include "straightness/record.h"
 
 namespace korvin {
@@ -42,10 +43,12 @@ class StraightnessReader {
   /// Reads the measurement into `image`, once. One of an older form leaves in `image` what it does not give
   /// (see older_forms.h). After a failure `image` is as before.
   StraightnessReadError read(GeradDatei& image);
+  /// Reads the measurement as it lies in the file, once. After a failure `form` is as before.
+  StraightnessReadError readForm(GeladeneForm& form);
 
  private:
   template <class Form>
-  StraightnessReadError readForm(GeradDatei& image);
+  StraightnessReadError readRecord(Form& record);
 
   FileGroupReader files_;
 };

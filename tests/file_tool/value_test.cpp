@@ -66,6 +66,25 @@ TEST(PlainText, AlignsNamesAndTables) {
   EXPECT_EQ(plainText(value), "ä\nname  esc\\x1b[31m\nrows\n   t    x\n  10  1.5\n   9    -\n");
 }
 
+TEST(Json, TruthIsAWord) {
+  EXPECT_EQ(json(Value::ofTruth(true)), "true");
+  EXPECT_EQ(json(Value::ofTruth(false)), "false");
+}
+
+TEST(PlainText, ListsFillTheLine) {
+  const Value list = Value::ofList(std::vector<Value>(20, Value::ofText("12345678")));
+  const std::string four = "12345678  12345678  12345678  12345678";
+  const std::string eight = "\n  " + four + "  " + four;
+  EXPECT_EQ(plainText(Value::ofObject({{"list", list}})), "list" + eight + eight + "\n  " + four + "\n");
+  EXPECT_EQ(plainText(Value::ofObject({{"none", Value::ofList()}})), "none\n");
+}
+
+TEST(PlainText, WordOfTheWidthOfALineStandsAlone) {
+  const auto word = [](std::size_t length) { return Value::ofText(std::string(length, 'a')); };
+  EXPECT_EQ(plainText(Value::ofList({word(78), word(100), Value{}, word(77), Value{}})),
+            std::string(78, 'a') + "\n" + std::string(100, 'a') + "\n-  " + std::string(77, 'a') + "\n-\n");
+}
+
 TEST(PlainText, ControlCharactersCannotSteerATerminal) {
   EXPECT_EQ(printable("a\x1b]0;x\x07\n\xC2\x9B"), "a\\x1b]0;x\\x07\\x0a\\x9b");
   EXPECT_EQ(printable("\x9B"), "›") << "Windows-1252, not a control character";
