@@ -6,16 +6,14 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QWidget>
-#include <algorithm>
 #include <cstdio>
-#include <ctime>
-#include <functional>
 #include <random>
 #include <string>
 #include <vector>
 
 #include "frame/posix_file_system.h"
 #include "frame/ui/theme.h"
+#include "in_turns.h"
 #include "position/ui/xy_diagram_view.h"
 
 #ifdef KORVIN_QCUSTOMPLOT
@@ -27,38 +25,6 @@ namespace {
 
 constexpr QSize windowSize(585, 550);  // the picture fills it
 constexpr double reach = 0.0049;       // of the points, mm: the range is ±5 um
-
-using Work = std::function<void()>;
-
-/// Time on the processor: a busy machine would count for a long job many times over, for a short one hardly
-/// ever.
-double processorTime() {
-  timespec now{};
-  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-  return static_cast<double>(now.tv_sec) * 1e6 + static_cast<double>(now.tv_nsec) / 1e3;
-}
-
-double microseconds(const Work& work) {
-  const double start = processorTime();
-  work();
-  return processorTime() - start;
-}
-
-double median(std::vector<double>& times) {
-  std::nth_element(times.begin(), times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2), times.end());
-  return times[times.size() / 2];
-}
-
-/// Median times of all `works`, done in turns, so that a busy machine meets all alike.
-std::vector<double> inTurns(int rounds, const std::vector<Work>& works) {
-  std::vector<std::vector<double>> times(works.size());
-  for (int i = 0; i < rounds; ++i) {
-    for (std::size_t k = 0; k < works.size(); ++k) times[k].push_back(microseconds(works[k]));
-  }
-  std::vector<double> middle;
-  for (auto& each : times) middle.push_back(median(each));
-  return middle;
-}
 
 std::vector<DataPoint> somePoints() {
   std::mt19937 generator(4711);
