@@ -80,6 +80,8 @@ bool Berichtsausgabe::seitenDrucken(const Bericht& bericht, const Pages& pages, 
       u_.progress, textHandingOver, [count] { return count; }, Cancelling::tooLate, parent);
   TextShaper shaper(u_.sprache());
   try {
+    // The dialog may have been open for long.
+    if (!u_.printers.present(printer)) throw DeviceRefused("the printer is gone");
     handOver(printer, bericht.titel, pages, shaper, watchOf(progress));
   } catch (const DeviceRefused&) {
     throw std::runtime_error(u_.druck.dictionary.DicText(textRefused));

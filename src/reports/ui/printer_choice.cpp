@@ -22,4 +22,8 @@ bool QtPrinterChoice::choose(QPrinter& printer, int pages, QWidget* parent) {
   return dialog.exec() == QDialog::Accepted;
 }
 
+bool QtPrinterChoice::present(const QPrinter& printer) {
+  return QPrinterInfo::availablePrinterNames().contains(printer.printerName());
+}
+
 }  // namespace korvin

@@ -16,6 +16,9 @@ class PrinterChoice {
 
   /// Lets the user choose the printer, its settings and which of `pages` pages to print. False after Cancel.
   virtual bool choose(QPrinter& printer, int pages, QWidget* parent) = 0;
+
+  /// True if the system still has the chosen printer. A job for one that is gone would be lost in silence.
+  virtual bool present(const QPrinter& printer) = 0;
 };
 
 /// Qt's print dialog, which speaks the language of `QtTranslations`.
@@ -23,6 +26,7 @@ class QtPrinterChoice : public PrinterChoice {
  public:
   bool available() override;
   bool choose(QPrinter& printer, int pages, QWidget* parent) override;
+  bool present(const QPrinter& printer) override;
 };
 
 }  // namespace korvin

@@ -245,6 +245,18 @@ TEST_F(Ausgabe, APrinterThatRefusesIsTold) {
   EXPECT_FALSE(hourglassShown());
 }
 
+TEST_F(Ausgabe, APrinterThatVanishedAfterTheChoiceIsTold) {
+  printers.stays = false;
+  EXPECT_FALSE(ausgabe.drucken(pages(2), nullptr));
+  EXPECT_EQ(printers.askedPages.size(), 1U);
+  ASSERT_EQ(messages.shown.size(), 1U);
+  EXPECT_NE(messages.shown[0].text.find("Der Drucker nimmt den Auftrag nicht an."), std::string::npos);
+  EXPECT_FALSE(printed());
+  EXPECT_FALSE(hourglassShown());
+  printers.stays = true;
+  EXPECT_TRUE(ausgabe.drucken(pages(2), nullptr)) << "the next one is free again";
+}
+
 // ---- Preview ----
 
 TEST_F(Ausgabe, ThePreviewPrintsAndSavesWhatItShows) {

@@ -37,9 +37,11 @@ class TestPrinters : public PrinterChoice {
     if (settings) settings(printer);
     return true;
   }
+  bool present(const QPrinter& /*printer*/) override { return stays; }
 
   bool there = true;
   bool accepts = true;
+  bool stays = true;
   std::string output;
   std::function<void(QPrinter&)> settings;
   std::vector<int> askedPages;

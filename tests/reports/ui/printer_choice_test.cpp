@@ -36,5 +36,16 @@ TEST_F(PrinterDialog, APrinterIsThereIfTheSystemHasOne) {
   EXPECT_EQ(QtPrinterChoice().available(), !QPrinterInfo::availablePrinters().isEmpty());
 }
 
+TEST_F(PrinterDialog, APrinterThatTheSystemDoesNotHaveIsGone) {
+  QtPrinterChoice choice;
+  QPrinter printer;
+  printer.setOutputFormat(QPrinter::PdfFormat);  // has no name
+  EXPECT_FALSE(choice.present(printer));
+  for (const QString& name : QPrinterInfo::availablePrinterNames()) {
+    printer.setPrinterName(name);
+    EXPECT_TRUE(choice.present(printer));
+  }
+}
+
 }  // namespace
 }  // namespace korvin
