@@ -44,6 +44,7 @@ TEST_F(Stand, SingleMeasurementByTheToolbar) {
   EXPECT_EQ(text("PanelxWertNormal"), "0.1234");
   EXPECT_EQ(text("PanelyWertNormal"), "0.1000") << "the head counts Y the other way";
   EXPECT_EQ(text("PanelXWertZoom"), "0.1234");
+  EXPECT_EQ(text("PanelYWertZoom"), "0.1000");
   EXPECT_EQ(text("PanelMessPkt"), "1");
   EXPECT_EQ(text("lblMPsTotal"), "1");
   EXPECT_EQ(text("lblStatus"), "D3081: 80 % ");
