@@ -317,6 +317,19 @@ TEST_F(FormOptionsOTest, AChosenFolderThatFilesCannotNameIsRefusedVisibly) {
 
 // ---- Mounting ----
 
+TEST_F(FormOptionsOTest, ThePictureStandsUnderTheMounting) {
+  showFromMainWindow();
+  openTab("TabMessinstrument");
+  const QWidget* combo = list("cmbKameraBefestigung");
+  const QRect place(combo->mapTo(dialog.get(), QPoint(0, 0)), combo->size());
+  const QLabel* picture = label("ImgMontage");
+  const QRect seen(picture->mapTo(dialog.get(), QPoint(0, 0)), picture->size());
+  EXPECT_GT(seen.top(), place.bottom());
+  EXPECT_GE(seen.left(), place.left());
+  EXPECT_TRUE(dialog->rect().contains(seen));
+  EXPECT_GE(seen.height(), picture->pixmap().height());
+}
+
 TEST_F(FormOptionsOTest, ThePictureFollowsTheMounting) {
   store("MessInfo_O", "Montage", "1");
   showFromMainWindow();

@@ -32,6 +32,17 @@ TEST_F(PlanInDialog, CheckAutoOnShowsTheFieldsAndRunsTheClock) {
   EXPECT_EQ(utf8Text(label("lblZeitAktuell")->text()), "12:01:01") << "the clock stands";
 }
 
+TEST_F(PlanInDialog, TheDialogKeepsItsSizeWhenThePlanIsSwitched) {
+  showFromPosition();
+  openTab("TabMessinstrument");
+  const QSize before = dialog->minimumSizeHint();
+  const int button = find<QPushButton>("Commands(0)")->y();
+  click(check("CheckAutoOn"));
+  ASSERT_TRUE(check("CheckAutoOn")->isChecked());
+  EXPECT_EQ(dialog->minimumSizeHint(), before);
+  EXPECT_EQ(find<QPushButton>("Commands(0)")->y(), button);
+}
+
 TEST_F(PlanInDialog, TheRecordsPlanIsShownAtOnce) {
   info().RestMP = 25;
   info().Intervall = 10;

@@ -241,6 +241,19 @@ TEST_F(Diagram, RangesGoUpAndDownByHandAndBackToAutomatic) {
   EXPECT_EQ(text("PanelYBereich"), "±1um");
 }
 
+TEST_F(Diagram, KeysOfTheRangesStayUnderThePointer) {
+  show();
+  click("XYAMPL");
+  clickRange("HAND");
+  settle();
+  const int place = rangeBar().button(QStringLiteral("YPLUS"))->x();
+  for (int rung = 0; rung < 14; ++rung) {
+    clickRange("XPLUS");
+    settle();
+    EXPECT_EQ(rangeBar().button(QStringLiteral("YPLUS"))->x(), place) << text("PanelXBereich");
+  }
+}
+
 TEST_F(Diagram, TheLowestRungStays) {
   show();
   click("XYAMPL");

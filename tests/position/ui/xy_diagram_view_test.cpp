@@ -162,6 +162,23 @@ TEST_F(XYView, ANewOffsetMovesAllPoints) {
   EXPECT_TRUE(marked(-0.0006, 0.003));
 }
 
+TEST_F(XYView, AnOffsetOfOneAxisMovesThePointsWithinTheSameRanges) {
+  add(0.0041, 0.0041);
+  add(0.0021, 0.0021);
+  forget();
+  formpos.arbeit().X.Offset = 0.0001;
+  view.follow();
+  settle();
+  EXPECT_EQ(view.frames, 0);
+  EXPECT_EQ(view.contents, 1);
+  EXPECT_TRUE(marked(0.004, 0.0041));
+  formpos.arbeit().Y.Offset = 0.0001;
+  view.follow();
+  settle();
+  EXPECT_EQ(view.contents, 2);
+  EXPECT_TRUE(marked(0.004, 0.004));
+}
+
 TEST_F(XYView, DeletingLeavesTheEmptyFrame) {
   const QImage empty = picture();
   add(0.0005, 0.0005);
