@@ -244,6 +244,26 @@ TEST_F(StraightnessLoadingTest, AnyOtherLengthIsRefusedOnlyAfterYes) {
   }
 }
 
+TEST_F(StraightnessLoadingTest, EveryBadFileIsRefusedAndEveryOddOneLoads) {
+  imageOfBefore();
+  const GeradDatei before = image();
+  int bad = 0;
+  for (const auto& entry : fs::directory_iterator(test::dataFile("bad"))) {
+    if (entry.path().extension() != ".G") continue;
+    SCOPED_TRACE(entry.path().string());
+    image() = before;
+    messages.shown.clear();
+    messages.answers = {MessageAnswer::yes};
+    const bool odd = entry.path().stem().string().starts_with("odd-");
+    EXPECT_EQ(load(entry.path().string()), odd);
+    EXPECT_EQ(messages.shown.empty(), odd);
+    if (odd) continue;
+    EXPECT_EQ(toBytes(image()), toBytes(before));
+    ++bad;
+  }
+  EXPECT_GE(bad, 20);
+}
+
 /// Lengths that come near one of the three, and those that do so in their low 16 bits alone.
 TEST_F(StraightnessLoadingTest, OnlyTheThreeLengthsAreForms) {
   for (const std::size_t length :

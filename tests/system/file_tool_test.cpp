@@ -59,6 +59,25 @@ TEST_F(FileProgram, JsonAgreesWithTheReference) {
   EXPECT_EQ(errors, "");
 }
 
+TEST_F(FileProgram, StraightnessOfAnyFormIsShownAndConverted) {
+  for (const std::string name : {"six.G", "older.G"}) {
+    folder.copyOf("reference/" + name);
+    ASSERT_EQ(run("show --json --inch " + name), 0) << errors;
+    const Json wanted = test::parseJson(test::readFile(test::dataFile("reference/" + name + ".json")));
+    const Json shown = test::parseJson(output);
+    EXPECT_EQ(shown["length"].number, wanted["length"].number);
+    EXPECT_NEAR(shown["evaluated"]["ISO_mil"]["Y"]["max"].number,
+                wanted["evaluated"]["ISO_mil"]["Y"]["max"].number, 1e-12);
+  }
+  EXPECT_EQ(run("csv six.G"), 0);
+  EXPECT_THAT(output, HasSubstr("\n6,2500,-0.586,-0.2068,"));
+  EXPECT_EQ(run("text --language 1 --inch six.G"), 0) << errors;
+  EXPECT_THAT(output, HasSubstr("\r\nMP\tZ[in]\tX[mil]\tY[mil]\r\n"));
+  EXPECT_EQ(run("report six.G -o six.pdf"), 1);
+  EXPECT_EQ(errors, "korvin-file: six.G: a report of a straightness measurement is not available yet\n");
+  EXPECT_THAT(folder.names(), ElementsAre("older.G", "point.O", "point.O1", "six.G"));
+}
+
 TEST_F(FileProgram, EachCommandWorksInAFolderThatCannotBeWritten) {
   fs::permissions(folder.path(), fs::perms::owner_read | fs::perms::owner_exec);
   EXPECT_EQ(run("show point.O"), 0);
