@@ -441,6 +441,8 @@ TEST_F(PositionsBerichtTest, TitleAndFileNameOfTheDocument) {
   info().DateiName = "C:\\KorFiles\\Punkt.Neu.O";
   EXPECT_EQ(report(diagram).titel, "KORVIN-D3057: Punkt.Neu.O");
   EXPECT_EQ(report(diagram).dateiName, "Punkt.Neu");
+  info().DateiName = "C:\\KorFiles\\.O";
+  EXPECT_EQ(report(diagram).dateiName, ".O");
 }
 
 TEST_F(PositionsBerichtTest, AFilterWithoutAMeasuringTimeHasNoText) {

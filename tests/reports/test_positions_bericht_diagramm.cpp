@@ -67,6 +67,10 @@ TEST_F(PositionsBerichtDiagramm, TickValuesHaveOneDecimalInTheUnitOfTheAxis) {
   EXPECT_TRUE(has("-40.0"));
   EXPECT_TRUE(has("+80.0")) << "Y: 100 um";
   EXPECT_TRUE(has("0.0"));
+  for (const DruckMarke& mark : paper.texte(1)) {
+    if (mark.text != "X [um]" && mark.text != "+40.0") continue;
+    EXPECT_EQ(mark.groesse, 8) << mark.text;
+  }
 }
 
 TEST_F(PositionsBerichtDiagramm, WithoutAGridThereAreAxesOnly) {

@@ -116,6 +116,14 @@ TEST_F(ReportFrameTest, InfoBlockPutsALineEveryFourMillimetres) {
   }
 }
 
+TEST_F(ReportFrameTest, OnlyTheHeadingOfABlockIsBold) {
+  InfoBlock(paper, 25, {{"Heading:", "value", "right:", "its value", true}});
+  EXPECT_TRUE(paper.textBei(1, 20, 25).fett);
+  EXPECT_FALSE(paper.textBei(1, 45, 25).fett);
+  EXPECT_FALSE(paper.textBei(1, 90, 25).fett);
+  EXPECT_FALSE(paper.textBei(1, 120, 25).fett);
+}
+
 TEST_F(ReportFrameTest, InfoBlockLeavesThePositionWhereTheNextValueWouldStand) {
   InfoBlock(paper, 25, std::vector<InfoZeile>(9));
   EXPECT_EQ(paper.x(), 45);

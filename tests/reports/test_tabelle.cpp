@@ -42,6 +42,13 @@ class TabelleTest : public ::testing::Test {
   int pages = 0;
 };
 
+TEST_F(TabelleTest, ALongTitleEndsBeforeTheFirstHeading) {
+  table.titel = std::string(60, 'W');
+  print(1);
+  EXPECT_LE(paper.textBei(1, 20, 95).x2, 60.01);
+  EXPECT_EQ(paper.textBei(1, 60, 95).groesse, 9);
+}
+
 TEST_F(TabelleTest, HeadingsRuleAndFootnote) {
   print(1);
   EXPECT_EQ(paper.textBei(1, 20, 95).text, "Title: ");

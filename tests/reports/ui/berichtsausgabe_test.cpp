@@ -187,6 +187,27 @@ TEST_F(Ausgabe, TheQueueIsHandledWhileALongPrintGoesOn) {
   EXPECT_GT(turns, 20);
 }
 
+TEST_F(Ausgabe, EnterDoesNotCancel) {
+  whileComposing = [](int) {
+    if (QWidget* box = window("PrintProgress")) QTest::keyClick(box, Qt::Key_Return);
+  };
+  chooseTarget();
+  EXPECT_TRUE(ausgabe.alsPdf(pages(20, 0.1), nullptr));
+}
+
+TEST_F(Ausgabe, WhatThePrinterHasCannotBeCancelled) {
+  PrintProgress progress(
+      {clock, pump, texts}, 7435, [] { return 9; }, PrintProgress::Cancelling::tooLate, nullptr);
+  clock.advance(1);
+  progress.page(1);
+  QWidget* box = window("PrintProgress");
+  ASSERT_NE(box, nullptr);
+  EXPECT_FALSE(box->findChild<QPushButton*>(QStringLiteral("PrintProgressCancel"))->isEnabled());
+  box->close();
+  clock.advance(1);
+  EXPECT_NO_THROW(progress.page(2));
+}
+
 // ---- Printer ----
 
 TEST_F(Ausgabe, ThePrinterGetsAllPagesAtTheirPlaces) {
@@ -271,10 +292,14 @@ TEST_F(Ausgabe, ThePreviewPrintsAndSavesWhatItShows) {
     EXPECT_EQ(wordsOf(target()).size(), 2U);
     EXPECT_EQ(utf8Text(preview.findChild<QLabel*>(QStringLiteral("PreviewMessage"))->text()),
               "Gespeichert: " + target());
+    EXPECT_FALSE(hourglassShown()) << "the user looks at it";
+    EXPECT_FALSE(ausgabe.drucken(pages(1), nullptr)) << "one report at a time, also after a part is done";
+    EXPECT_TRUE(printers.askedPages.empty());
     press(preview, "DRUCKEN");
     EXPECT_EQ(wordsOf(printers.output).size(), 2U);
     QTest::keyClick(&preview, Qt::Key_Escape);
   });
+  const HourglassScope dialogs;
   EXPECT_TRUE(ausgabe.vorschau(pages(2), nullptr));
   EXPECT_TRUE(shown);
   EXPECT_EQ(composed, 2) << "once";

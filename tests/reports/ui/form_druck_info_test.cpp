@@ -119,6 +119,16 @@ TEST_F(DruckInfo, PrintWritesTextsAndChoicesBackMarksTheRecordAndCloses) {
   EXPECT_FALSE(form->isVisible());
 }
 
+TEST_F(DruckInfo, EnterPrintsAndLabelsLeadToTheirTexts) {
+  open();
+  for (const auto& [name, index] : {std::pair{"lblBezeichnung", 0}, {"lblBediener", 1}, {"lblKommentar", 2}})
+    EXPECT_EQ(form->findChild<QLabel*>(QString::fromLatin1(name))->buddy(), &text(index)) << name;
+  form->findChild<QPushButton*>(QStringLiteral("CommandDruckAbbrechen(1)"))->setFocus();
+  text(0).setFocus();
+  QTest::keyClick(&text(0), Qt::Key_Return);
+  EXPECT_EQ(done, std::vector<std::string>{"print"});
+}
+
 TEST_F(DruckInfo, PrintWithoutAChangeDoesNotMarkTheRecord) {
   open();
   click("CommandDruckAbbrechen(0)");

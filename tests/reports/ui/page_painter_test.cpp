@@ -61,6 +61,30 @@ TEST_F(Painted, RulesBeginAndEndAtTheirPlaces) {
   EXPECT_NEAR(black, 1700, 1);
 }
 
+TEST_F(Painted, EachTextHasItsColour) {
+  const QImage image = picture(8, [](Drucker& d) {
+    d.setSchrift("ARIAL");
+    d.setSchriftGroesse(40);
+    for (const Farbe colour : {0x000000, 0x0000FF, 0xFF0000, 0x000000}) {
+      d.setX(20);
+      d.setY(colour == 0x0000FF ? 60 : (colour == 0xFF0000 ? 100 : 20));
+      d.setFarbe(colour);
+      d.drucke("I");
+    }
+  });
+  const auto has = [&image](double yMm, const QColor& colour) {
+    for (int y = int(yMm * 8); y < int((yMm + 20) * 8); ++y)
+      for (int x = 20 * 8; x < 30 * 8; ++x)
+        if (image.pixelColor(x, y) == colour) return true;
+    return false;
+  };
+  EXPECT_TRUE(has(20, Qt::black));
+  EXPECT_TRUE(has(60, Qt::red));
+  EXPECT_TRUE(has(100, Qt::blue));
+  EXPECT_FALSE(has(60, Qt::black));
+  EXPECT_FALSE(has(100, Qt::red));
+}
+
 TEST_F(Painted, FillsAndColoursAreAsAskedFor) {
   const QImage image = picture(4, [](Drucker& d) { d.flaeche(30, 40, 20, 10, 0x102030); });
   EXPECT_EQ(image.pixelColor(100, 100), QColor(0x30, 0x20, 0x10));

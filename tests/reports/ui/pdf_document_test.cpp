@@ -148,6 +148,7 @@ TEST_F(PdfTest, MarginsOfTheDeviceMoveNothing) {
             }),
             shaper, pages, {});
   }
+  EXPECT_NE(outputOf("pdfinfo", path).find("420 x 595"), std::string::npos) << "upright";
   const auto words = wordsOf(path);
   ASSERT_EQ(words.size(), 2U);
   for (const PdfWord& word : words) {

@@ -89,6 +89,19 @@ TEST_F(Protokoll, AFileThatWasRenamedIsCalledByTheNameThatWasChosen) {
   EXPECT_NEAR(wordOf(wordsOf(target()), "point.O").top, 37, 0.1);
 }
 
+TEST_F(Protokoll, TheUnitIsThatOfTheSystem) {
+  system.Masssystem = 1;
+  info().CheckYTabelle = true;
+  fileDialog.answers.push_back(target());
+  whenShown("FormDruckInfoO", [](QWidget& dialog) {
+    EXPECT_FALSE(hourglassShown()) << "the user has to answer";
+    press(dialog, "CommandPdf");
+  });
+  const HourglassScope command;
+  protokoll.drucken(nullptr);
+  wordOf(wordsOf(target()), "Y[mil]");
+}
+
 TEST_F(Protokoll, ThePrinterGetsTheDiagramPage) {
   whenShown("FormDruckInfoO", [](QWidget& dialog) {
     check(dialog, "CheckDiagramm(0)");
