@@ -7,11 +7,12 @@
 #include "frame/file_system.h"
 #include "frame/ui/form_datei_info.h"
 #include "link/ui/measuring_window.h"
+#include "link/ui/point_list.h"
 #include "position/commands.h"
 #include "position/erfassung.h"
 #include "position/formpos.h"
 #include "position/ui/diagram_area.h"
-#include "position/ui/point_list.h"
+#include "position/ui/point_list_model.h"
 #include "position/ui/position_panels.h"
 
 namespace korvin {

@@ -1,7 +1,6 @@
 #include "position/ui/point_list_model.h"
 
-#include <QFont>
-#include <QPalette>
+#include <array>
 
 #include "frame/ui/qt_text.h"
 #include "position/point_row.h"
@@ -9,76 +8,26 @@
 namespace korvin {
 namespace {
 
-QString cell(const PunktZeile& row, int column) {
-  switch (column) {
-    case PointListModel::Number:
-      return qText(row.nummer);
-    case PointListModel::Time:
-      return qText(row.zeit);
-    case PointListModel::X:
-      return qText(row.x);
-    case PointListModel::Y:
-      return qText(row.y);
-    default:
-      return {};
-  }
-}
+constexpr std::array<PointColumn, PointListModel::ColumnCount> pointColumns = {
+    {{"00000", false}, {"00.00.0000 / 00:00:00", false, true}, {"-0000.0000", true}, {"-0000.0000", true}}};
 
 }  // namespace
 
 PointListModel::PointListModel(const PointStore& points, const PositionsDatei& record, QObject* parent)
-    : QAbstractTableModel(parent), points_(points), record_(record), seen_(look()) {}
+    : PointTableModel(pointColumns, parent), points_(points), record_(record), seen_(look()) {}
 
 int PointListModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : seen_.count;
 }
 
-int PointListModel::columnCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : ColumnCount;
-}
-
-QVariant PointListModel::data(const QModelIndex& index, int role) const {
-  if (!index.isValid() || index.row() >= seen_.count) return {};
-  switch (role) {
-    case Qt::DisplayRole:
-      return cell(punktZeile(points_, record_, index.row() + 1), index.column());
-    case Qt::TextAlignmentRole:
-      return QVariant(index.column() == Time ? Qt::AlignCenter : Qt::AlignRight | Qt::AlignVCenter);
-    case Qt::FontRole:
-      if (index.row() == cursorRow()) {
-        QFont bold;
-        bold.setBold(true);
-        return bold;
-      }
-      return {};
-    default:
-      return {};
-  }
-}
-
-QVariant PointListModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal) return {};
-  if (role == Qt::DisplayRole) return headings_.value(section);
-  if (role == Qt::TextAlignmentRole) {
-    return QVariant(section == Time ? Qt::AlignCenter : Qt::AlignRight | Qt::AlignVCenter);
-  }
-  return {};
-}
-
-void PointListModel::setHeadings(const QStringList& headings) {
-  headings_ = headings;
-  Q_EMIT headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
+QStringList PointListModel::rowTexts(int row) const {
+  const PunktZeile line = punktZeile(points_, record_, row + 1);
+  return {qText(line.nummer), qText(line.zeit), qText(line.x), qText(line.y)};
 }
 
 PointListModel::Seen PointListModel::look() const {
   return {static_cast<int>(points_.X().anzahl()), record_.Info.MPAktuell, record_.X.Offset, record_.Y.Offset,
           record_.Info.NKStellen};
-}
-
-void PointListModel::repaintRows(int first, int last) {
-  if (first >= 0 && first <= last && last < seen_.count) {
-    Q_EMIT dataChanged(index(first, 0), index(last, ColumnCount - 1));
-  }
 }
 
 void PointListModel::follow() {
@@ -107,17 +56,6 @@ void PointListModel::reload() {
   beginResetModel();
   seen_ = look();
   endResetModel();
-}
-
-QString PointListModel::tabSeparated(const QVector<int>& rows) const {
-  QString text;
-  for (const int row : rows) {
-    const PunktZeile line = punktZeile(points_, record_, row + 1);
-    for (int column = 0; column < ColumnCount; ++column) {
-      text += cell(line, column) + QLatin1Char(column + 1 < ColumnCount ? '\t' : '\n');
-    }
-  }
-  return text;
 }
 
 }  // namespace korvin

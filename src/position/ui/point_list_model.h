@@ -1,18 +1,14 @@
 #pragma once
 
-#include <QAbstractTableModel>
-#include <QStringList>
-#include <QVector>
-
+#include "link/ui/point_table_model.h"
 #include "position/point_store.h"
 #include "position/record.h"
 
 namespace korvin {
 
 /// The points of a position measurement as a table: number, time, X and Y less the offset in force. Reads the
-/// store itself and keeps no copy, so that 29999 points cost nothing; the row under the point cursor is
-/// marked.
-class PointListModel : public QAbstractTableModel {
+/// store itself and keeps no copy, so that 29999 points cost nothing.
+class PointListModel : public PointTableModel {
   Q_OBJECT
  public:
   enum Column { Number, Time, X, Y, ColumnCount };
@@ -21,23 +17,15 @@ class PointListModel : public QAbstractTableModel {
   PointListModel(const PointStore& points, const PositionsDatei& record, QObject* parent = nullptr);
 
   int rowCount(const QModelIndex& parent = {}) const override;
-  int columnCount(const QModelIndex& parent = {}) const override;
-  QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
-  QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
+  int cursorRow() const override { return seen_.cursor - 1; }
 
-  void setHeadings(const QStringList& headings);
+  /// New points are appended, never the whole list anew; another offset, number of decimals or cursor only
+  /// has rows painted again.
+  void follow() override;
+  void reload() override;
 
-  /// Takes over what has changed since the last call: new points are appended, never the whole list anew;
-  /// another offset, number of decimals or cursor only has rows painted again.
-  void follow();
-  /// Takes over wholly other points.
-  void reload();
-
-  /// The rows as lines of tab separated texts.
-  QString tabSeparated(const QVector<int>& rows) const;
-
-  /// The row under the point cursor; −1 without points.
-  int cursorRow() const { return seen_.cursor - 1; }
+ protected:
+  QStringList rowTexts(int row) const override;
 
  private:
   struct Seen {
@@ -48,11 +36,9 @@ class PointListModel : public QAbstractTableModel {
     int decimals = 0;
   };
   Seen look() const;
-  void repaintRows(int first, int last);
 
   const PointStore& points_;
   const PositionsDatei& record_;
-  QStringList headings_;
   Seen seen_;
 };
 

@@ -1,57 +1,25 @@
 #include "position/ui/position_panels.h"
 
-#include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
-#include <optional>
 
 #include "frame/ui/qt_text.h"
 #include "frame/ui/theme.h"
+#include "link/ui/panel_parts.h"
 
 namespace korvin {
 namespace {
 
-constexpr double axisScale = 2.0;  ///< size of "X" and "Y" against plain text
-
-QLabel* plainLabel(const QString& name, QWidget* parent) {
-  auto* label = new QLabel(parent);
-  label->setObjectName(name);
-  label->setTextFormat(Qt::PlainText);
-  setTextColour(*label, panelCaption());
-  return label;
-}
-
-QLabel* axisLabel(const char* axis, QWidget* parent) {
-  QLabel* label = plainLabel(QStringLiteral("Label%1").arg(QLatin1String(axis)), parent);
-  label->setFont(themeFont(axisScale, true));
-  label->setText(QLatin1String(axis));
-  return label;
-}
-
-QFrame* line(QWidget* parent) {
-  auto* rule = new QFrame(parent);
-  rule->setFixedHeight(1);
-  rule->setAutoFillBackground(true);
-  QPalette colours = rule->palette();
-  colours.setColor(QPalette::Window, panelGround().lighter(190));
-  rule->setPalette(colours);
-  return rule;
-}
-
-void showOptional(CaptionedField& field, const std::optional<std::string>& text) {
-  field.value().setText(text ? qText(*text) : QString());
-  field.setVisible(text.has_value());
-}
+constexpr double unitScale = 2.0;  ///< size of the unit between the large numbers
 
 }  // namespace
-
 PositionPanels::PositionPanels(HeadPanel* kopf, QWidget* parent)
     : DarkPanel(parent),
       x_(new ValuePanel(QStringLiteral("PanelxWertNormal"), this)),
       y_(new ValuePanel(QStringLiteral("PanelyWertNormal"), this)),
-      einheitX_(plainLabel(QStringLiteral("lblEinheitX"), this)),
-      einheitY_(plainLabel(QStringLiteral("lblEinheitY"), this)),
+      einheitX_(panelLabel(QStringLiteral("lblEinheitX"), this)),
+      einheitY_(panelLabel(QStringLiteral("lblEinheitY"), this)),
       messPunkt_(new CaptionedField(QStringLiteral("PanelLabelMP"), QStringLiteral("PanelMessPkt"), this)),
       gesamt_(new CaptionedField(QStringLiteral("PanelMPTotal"), QStringLiteral("lblMPsTotal"), this)),
       offset_(new CaptionedField(QStringLiteral("lblOffsetTitel"), QStringLiteral("lblOffset"), this)),
@@ -76,28 +44,13 @@ PositionPanels::PositionPanels(HeadPanel* kopf, QWidget* parent)
   auto* spalte = new QVBoxLayout(this);
   spalte->setContentsMargins(scaled(16), scaled(8), scaled(16), scaled(8));
   spalte->setSpacing(scaled(6));
-  spalte->addWidget(wertZeile(x_, axisLabel("X", this), einheitX_), 3);
-  spalte->addWidget(wertZeile(y_, axisLabel("Y", this), einheitY_), 3);
-  spalte->addWidget(line(this));
+  spalte->addWidget(valueRow(x_, axisLabel(QStringLiteral("X"), this), einheitX_, this), 3);
+  spalte->addWidget(valueRow(y_, axisLabel(QStringLiteral("Y"), this), einheitY_, this), 3);
+  spalte->addWidget(panelRule(Qt::Horizontal, this));
   spalte->addLayout(felder);
-  spalte->addWidget(line(this));
+  spalte->addWidget(panelRule(Qt::Horizontal, this));
   spalte->addWidget(kopf);
   zeigeUhr({});
-}
-
-QWidget* PositionPanels::wertZeile(ValuePanel* panel, QLabel* name, QLabel* einheit) {
-  auto* zeile = new QWidget(this);
-  auto* namen = new QVBoxLayout;
-  namen->setSpacing(0);
-  namen->addStretch();
-  namen->addWidget(name);
-  namen->addWidget(einheit);
-  namen->addStretch();
-  auto* reihe = new QHBoxLayout(zeile);
-  reihe->setContentsMargins(0, 0, 0, 0);
-  reihe->addLayout(namen);
-  reihe->addWidget(panel, 1);
-  return zeile;
 }
 
 void PositionPanels::setTexte(Dictionary& dictionary, const QString& einheit) {
@@ -141,16 +94,16 @@ PositionZoom::PositionZoom(QWidget* parent)
     : DarkPanel(parent),
       x_(new ValuePanel(QStringLiteral("PanelXWertZoom"), this)),
       y_(new ValuePanel(QStringLiteral("PanelYWertZoom"), this)),
-      pnlXY_(plainLabel(QStringLiteral("pnlXY"), this)) {
-  pnlXY_->setFont(themeFont(axisScale));
+      pnlXY_(panelLabel(QStringLiteral("pnlXY"), this)) {
+  pnlXY_->setFont(themeFont(unitScale));
   pnlXY_->setAlignment(Qt::AlignCenter);
   auto* gitter = new QGridLayout(this);
   gitter->setContentsMargins(scaled(16), scaled(16), scaled(16), scaled(16));
-  gitter->addWidget(axisLabel("X", this), 0, 0, Qt::AlignCenter);
+  gitter->addWidget(axisLabel(QStringLiteral("X"), this), 0, 0, Qt::AlignCenter);
   gitter->addWidget(x_, 0, 1);
   gitter->addWidget(pnlXY_, 1, 0);
-  gitter->addWidget(line(this), 1, 1, Qt::AlignVCenter);
-  gitter->addWidget(axisLabel("Y", this), 2, 0, Qt::AlignCenter);
+  gitter->addWidget(panelRule(Qt::Horizontal, this), 1, 1, Qt::AlignVCenter);
+  gitter->addWidget(axisLabel(QStringLiteral("Y"), this), 2, 0, Qt::AlignCenter);
   gitter->addWidget(y_, 2, 1);
   gitter->setColumnStretch(1, 1);
   gitter->setRowStretch(0, 1);

@@ -31,8 +31,6 @@ class PositionPanels : public DarkPanel {
   QVector<ValuePanel*> werte() const { return {x_, y_}; }
 
  private:
-  QWidget* wertZeile(ValuePanel* panel, QLabel* name, QLabel* einheit);
-
   ValuePanel* x_;
   ValuePanel* y_;
   QLabel* einheitX_;

@@ -1,34 +1,15 @@
 #include "position/ui/statistics_panel.h"
 
-#include <QFrame>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
-#include <optional>
-#include <string>
 
-#include "frame/ui/qt_text.h"
 #include "frame/ui/theme.h"
-#include "link/ui/value_panel.h"
+#include "link/ui/panel_parts.h"
 
 namespace korvin {
 namespace {
 
 constexpr double lineScale = 1.2;
-
-QFrame* divider(QWidget* parent) {
-  auto* rule = new QFrame(parent);
-  rule->setFixedWidth(1);
-  rule->setAutoFillBackground(true);
-  QPalette colours = rule->palette();
-  colours.setColor(QPalette::Window, panelGround().lighter(190));
-  rule->setPalette(colours);
-  return rule;
-}
-
-void showLine(QLabel& label, const std::optional<std::string>& text) {
-  label.setText(text ? qText(*text) : QString());
-  label.setVisible(text.has_value());
-}
 
 }  // namespace
 
@@ -52,9 +33,9 @@ AxisStatistics::AxisStatistics(const QString& axis, QWidget* parent) : QWidget(p
 
 void AxisStatistics::zeige(int anzahl, const StatistikTexte& texte) {
   lines_[0]->setText(QStringLiteral("%1   n %2").arg(axis_).arg(anzahl));
-  showLine(*lines_[1], texte.x);
-  showLine(*lines_[2], texte.s);
-  showLine(*lines_[3], texte.R);
+  showOptional(*lines_[1], texte.x);
+  showOptional(*lines_[2], texte.s);
+  showOptional(*lines_[3], texte.R);
 }
 
 PictureStatistik::PictureStatistik(QWidget* parent)
@@ -67,7 +48,7 @@ PictureStatistik::PictureStatistik(QWidget* parent)
   row->setContentsMargins(scaled(16), scaled(8), scaled(16), scaled(8));
   row->setSpacing(scaled(16));
   row->addWidget(x_, 1);
-  row->addWidget(divider(this));
+  row->addWidget(panelRule(Qt::Vertical, this));
   row->addWidget(y_, 1);
 }
 

@@ -1,4 +1,4 @@
-#include "position/ui/point_list.h"
+#include "link/ui/point_list.h"
 
 #include <gtest/gtest.h>
 
@@ -11,6 +11,7 @@
 #include "frame/leerwert.h"
 #include "frame/ui/qt_text.h"
 #include "position/formpos.h"
+#include "position/ui/point_list_model.h"
 
 namespace korvin {
 namespace {

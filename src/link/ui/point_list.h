@@ -3,17 +3,17 @@
 #include <QTableView>
 #include <functional>
 
-#include "position/ui/point_list_model.h"
+#include "link/ui/point_table_model.h"
 
 namespace korvin {
 
-/// The point list of `FormPosition`: scrolls with the point cursor; a click on a row, or Up and Down, moves
-/// the cursor. Rows can be selected on their own account and copied (Ctrl+C, all rows where none is selected)
-/// as tab separated text.
+/// The table of points of a measuring window: scrolls with the point cursor; a click on a row, or Up and
+/// Down, moves the cursor. Rows can be selected on their own account and copied (Ctrl+C, all rows where none
+/// is selected) as tab separated text.
 class PointList : public QTableView {
   Q_OBJECT
  public:
-  PointList(PointListModel& model, QWidget* parent = nullptr);
+  PointList(PointTableModel& model, QWidget* parent = nullptr);
 
   /// Called with the number of the point that the user chose.
   std::function<void(int number)> onChosen;
@@ -42,7 +42,7 @@ class PointList : public QTableView {
   void showCursor();
   int columnWidthOf(int column) const;
 
-  PointListModel& model_;
+  PointTableModel& model_;
   QString emptyText_;
   bool following_ = false;  ///< the list itself moves its current row
   int shownRow_ = -1;

@@ -1,4 +1,4 @@
-#include "position/ui/point_list.h"
+#include "link/ui/point_list.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -8,7 +8,6 @@
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include "frame/ui/theme.h"
@@ -21,9 +20,6 @@ constexpr int rowsWanted = 12;
 constexpr int rowsAtLeast = 1;
 /// Left and right of the words, in headings (by the style sheet) and cells alike.
 constexpr double cellEdge = 12;
-/// The widest text of each column.
-constexpr std::array<const char*, PointListModel::ColumnCount> widest = {"00000", "00.00.0000 / 00:00:00",
-                                                                         "-0000.0000", "-0000.0000"};
 
 /// Keeps the figures off the edge of their column, right below their heading, on any screen.
 class PaddedCell : public QStyledItemDelegate {
@@ -46,7 +42,7 @@ class PaddedCell : public QStyledItemDelegate {
 
 }  // namespace
 
-PointList::PointList(PointListModel& model, QWidget* parent) : QTableView(parent), model_(model) {
+PointList::PointList(PointTableModel& model, QWidget* parent) : QTableView(parent), model_(model) {
   setObjectName(QStringLiteral("PointList"));
   setModel(&model_);
   setItemDelegate(new PaddedCell(this));
@@ -143,24 +139,25 @@ void PointList::changeEvent(QEvent* event) {
 int PointList::columnWidthOf(int column) const {
   QFont bold = font();
   bold.setBold(true);
-  return QFontMetrics(bold).horizontalAdvance(QLatin1String(widest.at(static_cast<std::size_t>(column)))) +
-         2 * scaled(cellEdge);
+  const PointColumn& shape = model_.columns()[static_cast<std::size_t>(column)];
+  return QFontMetrics(bold).horizontalAdvance(QLatin1String(shape.widest)) + 2 * scaled(cellEdge);
 }
 
 void PointList::fitColumns() {
   const int height = static_cast<int>(fontMetrics().height() * rowLines);
   verticalHeader()->setMinimumSectionSize(height);
   verticalHeader()->setDefaultSectionSize(height);
-  for (int column = 0; column < PointListModel::ColumnCount; ++column) {
-    const bool fixed = column == PointListModel::Number || column == PointListModel::Time;
-    horizontalHeader()->setSectionResizeMode(column, fixed ? QHeaderView::Interactive : QHeaderView::Stretch);
+  for (int column = 0; column < model_.columnCount(); ++column) {
+    const bool stretches = model_.columns()[static_cast<std::size_t>(column)].stretches;
+    horizontalHeader()->setSectionResizeMode(column,
+                                             stretches ? QHeaderView::Stretch : QHeaderView::Interactive);
     setColumnWidth(column, columnWidthOf(column));
   }
 }
 
 QSize PointList::minimumSizeHint() const {
   int width = verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
-  for (int column = 0; column < PointListModel::ColumnCount; ++column) width += columnWidthOf(column);
+  for (int column = 0; column < model_.columnCount(); ++column) width += columnWidthOf(column);
   return {width,
           horizontalHeader()->sizeHint().height() + verticalHeader()->defaultSectionSize() * rowsAtLeast};
 }
