@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
+#include <utility>
 
 #include "frame/messart.h"
 #include "frame/pfade.h"
@@ -43,13 +44,16 @@ Station::Station(const FolderEnvironment& environment, Appearance appearance)
           {clock_, messages_, dictionary_, profil_, messplatz_.meldung, messplatz_.system, formpos_}),
       positionsDateien_({fileSystem_, messages_, messplatz_.meldung, dictionary_, profil_, formpos_}),
       positionsProtokoll_({formpos_, messplatz_.system, dictionary_, clock_}, ausgabe_),
-      positionStarter_({cycle(), formpos_, positionsErfassung_, positionsDateien_, fileDialog_, fileSystem_,
-                        [this] { return std::make_unique<QtMSComm>(portFinder()); },
-                        [this] { hilfe_.zeigen(); },
-                        [this](QWidget& fenster, const auto& ausserhalb) {
-                          einrichtenPosition(fenster, &offenePosition_, ausserhalb);
-                        },
-                        [this](QWidget* fenster) { positionsProtokoll_.drucken(fenster); }}),
+      positionStarter_(windowStart(
+                           [this](QWidget& fenster, const auto& ausserhalb) {
+                             einrichtenPosition(fenster, &offenePosition_, ausserhalb);
+                           },
+                           [this](QWidget* fenster) { positionsProtokoll_.drucken(fenster); }),
+                       formpos_, positionsErfassung_, positionsDateien_),
+      geradErfassung_({messages_, dictionary_, profil_, messplatz_.system, formgera_}),
+      geradDateien_(
+          {fileSystem_, messages_, messplatz_.meldung, dictionary_, profil_, messplatz_.system, formgera_}),
+      geradStarter_(windowStart({}, {}), formgera_, geradErfassung_, geradDateien_),
       verteilung_(messplatz_.system.Messart, dictionary_, messages_, messplatz_.meldung),
       programmstart_(messplatz_.system, messplatz_.meldung, settings_, anzeige_, dictionary_, messages_),
       hilfe_((folders_.program / helpFile).string(), [this] { return int{anzeige_.Sprache()}; }, dictionary_,
@@ -57,7 +61,9 @@ Station::Station(const FolderEnvironment& environment, Appearance appearance)
       window_({messplatz_.system, messplatz_.meldung, dictionary_, profil_, messages_, fileDialog_, anzeige_,
                programmstart_, verteilung_, translations_, hilfe_, folders_.program.string(), appearance}) {
   verteilung_.anmelden(MessartPosition, positionStarter_);
+  verteilung_.anmelden(MessartGeradheit, geradStarter_);
   positionStarter_.setFenster(&window_);
+  geradStarter_.setFenster(&window_);
   window_.grundeinstellungen[MessartPosition] = [this] { einrichtenPosition(window_, nullptr, {}); };
   window_.beiErsterAktivierung = [this] { return kopfsuche_.suchen(window_); };
   window_.linkZeile = [this] { return kopfsuche_.zeile(); };
@@ -69,6 +75,12 @@ Station::~Station() = default;
 ZyklusUmgebung Station::cycle() {
   return {clock_,  pump_,          timers_,          messages_, dictionary_, profil_, messplatz_.meldung,
           korCom_, KameraAntwort_, messplatz_.system};
+}
+
+FensterStart Station::windowStart(EinrichtenDialog einrichten, std::function<void(QWidget*)> drucken) {
+  return {cycle(),
+          {fileDialog_, fileSystem_, [this] { hilfe_.zeigen(); }, std::move(einrichten), std::move(drucken)},
+          [this] { return std::make_unique<QtMSComm>(portFinder()); }};
 }
 
 AusgabeUmgebung Station::reports() {

@@ -34,6 +34,10 @@
 #include "position/ui/position_starter.h"
 #include "reports/ui/berichtsausgabe.h"
 #include "reports/ui/positions_protokoll.h"
+#include "straightness/erfassung.h"
+#include "straightness/formgera.h"
+#include "straightness/straightness_file.h"
+#include "straightness/ui/gerad_starter.h"
 
 namespace korvin {
 
@@ -57,6 +61,8 @@ class Station {
 
  private:
   ZyklusUmgebung cycle();
+  /// What the windows of all kinds start with, and the dialogs of this kind.
+  FensterStart windowStart(EinrichtenDialog einrichten, std::function<void(QWidget*)> drucken);
   AusgabeUmgebung reports();
   QtMSComm::PortFinder portFinder() const;
   /// `FormOptionsO` over `fenster`; `messung` and `ausserhalb` if the measuring window asks for it.
@@ -102,6 +108,10 @@ class Station {
   PositionsDateien positionsDateien_;
   PositionsProtokoll positionsProtokoll_;
   PositionStarter positionStarter_;
+  FORMGERA formgera_;
+  GeradErfassung geradErfassung_;
+  GeradDateien geradDateien_;
+  GeradStarter geradStarter_;
   DateiVerteilung verteilung_;
 
   // The main window.

@@ -147,7 +147,7 @@ class Messaufgabe {
   virtual char filter() const = 0;
   virtual void setFilter(char stufe) = 0;
 
-  /// The mounting that the window's picture shows, quarter turns 0 to 3; asked where `kopfImLauf` is set.
+  /// The mounting that the window's picture shows, quarter turns 0 to 3.
   virtual std::int16_t gezeigteMontage() { return 0; }
 
   /// True while the head's keys are ignored.

@@ -59,6 +59,7 @@ class PositionsErfassung : public Messaufgabe {
   char filter() const override;
   void setFilter(char stufe) override;
   std::int16_t nkStellen() const override;
+  std::int16_t gezeigteMontage() override { return u_.formpos.Info().Montage; }
   void laufBeginnt(float sekunden) override;
   LaufSchritt laufSchritt() override;
   bool laufFertig() const override;

@@ -26,6 +26,11 @@ class KeyToolBar : public QToolBar {
 
   explicit KeyToolBar(const QString& name, QWidget* parent = nullptr);
 
+  /// Less room around the keys, for a bar with many of them.
+  void setDense() { setProperty("dense", true); }
+  /// Without a ground of its own, for a bar within a window.
+  void setEmbedded() { setProperty("embedded", true); }
+
   void add(const QString& key, const QString& pictureKey, Kind kind = Kind::push,
            const QKeySequence& shortcut = {});
   /// A line between two groups of buttons.

@@ -59,6 +59,7 @@ PointList::PointList(PointTableModel& model, QWidget* parent) : QTableView(paren
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   horizontalHeader()->setSectionsClickable(false);
   horizontalHeader()->setHighlightSections(false);
+  connect(&model_, &QAbstractItemModel::headerDataChanged, this, &PointList::fitColumns);
   setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
   fitColumns();
 }
@@ -140,7 +141,11 @@ int PointList::columnWidthOf(int column) const {
   QFont bold = font();
   bold.setBold(true);
   const PointColumn& shape = model_.columns()[static_cast<std::size_t>(column)];
-  return QFontMetrics(bold).horizontalAdvance(QLatin1String(shape.widest)) + 2 * scaled(cellEdge);
+  const QFontMetrics metrics(bold);
+  const QString heading = model_.headerData(column, Qt::Horizontal).toString();
+  return std::max(metrics.horizontalAdvance(QLatin1String(shape.widest)),
+                  metrics.horizontalAdvance(heading)) +
+         2 * scaled(cellEdge);
 }
 
 void PointList::fitColumns() {

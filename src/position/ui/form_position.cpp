@@ -8,12 +8,8 @@
 #include <array>
 #include <utility>
 
-#include "frame/cp1252.h"
-#include "frame/montage.h"
-#include "frame/pfade.h"
 #include "frame/ui/qt_text.h"
 #include "frame/ui/theme.h"
-#include "frame/zahl_text.h"
 #include "position/panel_texts.h"
 
 namespace korvin {
@@ -22,7 +18,6 @@ namespace {
 using Kind = KeyToolBar::Kind;
 
 constexpr int TimerUhrMs = 100;
-constexpr std::int16_t TextKamera = 3003;
 constexpr std::int16_t TextWartetAufStart = 7224;
 constexpr std::int16_t Inch = 1;
 
@@ -55,18 +50,17 @@ constexpr std::array<TastenZeile, 24> Tasten = {{{"NEU", "ICON1", Kind::push, "C
 }  // namespace
 
 FormPosition::FormPosition(const PositionUmgebung& umgebung, QWidget* parent)
-    : Messfenster(umgebung.zyklus, umgebung.MSCommKamera, umgebung.erfassung, parent),
+    : DatenFenster(umgebung.zyklus, umgebung.MSCommKamera, umgebung.erfassung, umgebung.dienste,
+                   QStringLiteral("FormDateiInfoO"), parent),
       p_(umgebung),
-      dateiInfo_(umgebung.zyklus.dictionary, QStringLiteral("FormDateiInfoO"), this),
       daten_(p_.formpos, p_.erfassung, p_.dateien),
-      befehle_({p_.zyklus.clock, p_.zyklus.messages, p_.fileDialog, dateiInfo_, p_.zyklus.dictionary,
-                p_.zyklus.profil, p_.zyklus.meldung, p_.zyklus.system, daten_}),
+      befehle_(befehlUmgebung(daten_)),
       punkte_(p_.formpos.punkte(), p_.formpos.arbeit()),
       TimerUhr_(p_.zyklus.timers.create()) {
   setObjectName(QStringLiteral("FormPosition"));
   tastenAnlegen(QStringLiteral("tbrPosition"), Tasten);
-  menusAnlegen();
   layoutAnlegen();
+  menusAnlegen();
   beschriften();
   TimerUhr_->setInterval(TimerUhrMs);
   TimerUhr_->onTick = [this] { panels_->zeigeUhr(qText(panelZeit(p_.zyklus.clock.now()))); };
@@ -75,29 +69,8 @@ FormPosition::FormPosition(const PositionUmgebung& umgebung, QWidget* parent)
 // ---- Building ----
 
 void FormPosition::menusAnlegen() {
-  QMenu* datei = menuAnlegen("M_Datei", 7180);
-  menuEintrag(
-      datei, "M_Neu", 1002, [this] { M_Neu(); }, "NEU");
-  menuEintrag(
-      datei, "M_Oeffnen", 1007, [this] { M_Oeffnen(); }, "LADEN");
-  menuEintrag(
-      datei, "M_Speichern", 7181, [this] { M_Speichern(); }, "SPEICHERN");
-  menuEintrag(datei, "M_SpeichernUnter", 7182, [this] {
-    M_SpeichernUnter();
-  })->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
-  datei->addSeparator();
-  menuEintrag(
-      datei, "M_ProtokollDrucken", 7183, [this] { M_ProtokollDrucken(); }, "DRUCKEN");
-  datei->addSeparator();
-  menuEintrag(datei, "M_Beenden", 1024, [this] { close(); });
-
-  QMenu* messung = menuAnlegen("M_Messung", 1001);
-  menuEintrag(
-      messung, "M_SingleMeas", 7185, [this] { drueckeTaste("XYMP1"); }, "XYMP1");
-  menuEintrag(
-      messung, "M_PJustage", 7186, [this] { drueckeTaste("XYMPN"); }, "XYMPN");
-  menuEintrag(
-      messung, "M_QJustage", 7187, [this] { drueckeTaste("XYMPNN"); }, "XYMPNN");
+  dateiMenu();
+  QMenu* messung = messMenu(7185, 7186, 7187);
   messung->addSeparator();
   menuEintrag(
       messung, "M_MessLöschen", 7188, [this] { M_MessLöschen(); }, "LOESCHEN");
@@ -110,17 +83,10 @@ void FormPosition::menusAnlegen() {
   M_Gitter_->setCheckable(true);
   M_Gitter_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_G));
   ansicht->addSeparator();
-  QAction* liste = menuEintrag(ansicht, "M_PunktListe", 7370, [] {});
-  liste->setCheckable(true);
-  liste->setChecked(true);
-  liste->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_L));
-  connect(liste, &QAction::toggled, this, [this](bool an) { liste_->setVisible(an); });
+  punktListenEintrag(ansicht, *liste_);
 
   verbindungsMenu();
-  menuEintrag(
-      menuAnlegen("M_Extras", 1025), "M_EinrichtInfo", 7189, [this] { M_EinrichtInfo(); }, "EINRICHTEN");
-  menuEintrag(
-      menuAnlegen("M_HilfeMenu", 1052), "M_Hilfe", 7043, [this] { drueckeTaste("HILFE"); }, "HILFE");
+  extrasUndHilfeMenu();
 }
 
 void FormPosition::layoutAnlegen() {
@@ -148,18 +114,6 @@ void FormPosition::layoutAnlegen() {
   liste_->setFocus();
 }
 
-PictureDesk FormPosition::bildAblage() {
-  const auto datei = [this] { return pfadTeilen(vonCp1252(Info().DateiName.trimmed())); };
-  PictureDesk ablage{p_.fileDialog, p_.zyklus.messages, dictionary(), p_.fileSystem, {}, {}};
-  ablage.folder = [datei] { return datei().ordner; };
-  ablage.name = [datei] {
-    const std::string name = datei().name;
-    // A measurement without a file has the mask of its kind for a name.
-    return name.empty() || name.front() == '*' ? std::string("XY") : name.substr(0, name.rfind('.'));
-  };
-  return ablage;
-}
-
 void FormPosition::beschriften() {
   const QString einheit =
       p_.zyklus.system.Masssystem == Inch ? QStringLiteral("[mil]") : QStringLiteral("[mm]");
@@ -184,7 +138,7 @@ void FormPosition::ersteAktivierung() {
 
 void FormPosition::datenZeigen() {
   const PositionsInfo& info = Info();
-  kopfZeigen();
+  zyklus().kopfZeigen();
   tasten().setPressed(QStringLiteral("OFFSET"), static_cast<bool>(info.OffsetAktiv));
   tasten().setPressed(QStringLiteral("ALLE"), !info.NurAktuell);
   tasten().setPressed(QStringLiteral("x"), static_cast<bool>(info.ZeigeMittel));
@@ -193,29 +147,14 @@ void FormPosition::datenZeigen() {
   M_Gitter_->setChecked(static_cast<bool>(info.Gitter));
   numZoomZeigen();
   titelZeigen();
-  werteAnpassen();
+  werteAnpassen(info.NKStellen);
   liste_->reload();
   bild_->zeigeNeu(positionsTexte(p_.formpos));
   neuZeichnen(false);
 }
 
-void FormPosition::kopfZeigen() {
-  kopf().setMontage(qText(MontageBild(Info().Montage)));
-  // Asking for the filter's text also sets the time limits of the telegrams.
-  const std::string filter = p_.zyklus.korCom.FilterText(p_.zyklus.system.FilterVorgabe, dictionary());
-  if (!zyklus().verbindung().simulation)
-    kopf().setKamera(dicText(TextKamera) + QStringLiteral(": ") + qText(filter));
-}
-
-void FormPosition::titelZeigen() {
-  setWindowTitle(qText(fensterTitel(Info(), dictionary())));
-}
-
-void FormPosition::werteAnpassen() {
-  const bool inch = p_.zyklus.system.Masssystem == Inch;
-  const QString ganze = inch ? QStringLiteral("-000") : QStringLiteral("-00");
-  const QString breitester = ganze + qText(ZahlMuster(Info().NKStellen)).mid(1);
-  for (ValuePanel* feld : wertfelder) feld->setWidestText(breitester);
+std::string FormPosition::titel() {
+  return fensterTitel(Info(), dictionary());
 }
 
 void FormPosition::neuZeichnen(bool geaendert) {
@@ -257,10 +196,6 @@ void FormPosition::numZoomZeigen() {
 
 // ---- Closing ----
 
-bool FormPosition::schliessenErlaubt() {
-  return befehle_.aenderungenBehandelt();
-}
-
 void FormPosition::wirdEntladen() {
   TimerUhr_->setEnabled(false);
 }
@@ -268,12 +203,8 @@ void FormPosition::wirdEntladen() {
 // ---- Commands ----
 
 void FormPosition::taste(const QString& key, bool gedrueckt) {
-  if (key == QLatin1String("NEU")) M_Neu();
   if (key == QLatin1String("LOESCHEN")) M_MessLöschen();
   if (key == QLatin1String("EINRICHTEN")) M_EinrichtInfo();
-  if (key == QLatin1String("LADEN")) M_Oeffnen();
-  if (key == QLatin1String("SPEICHERN")) M_Speichern();
-  if (key == QLatin1String("DRUCKEN")) M_ProtokollDrucken();
   if (key == QLatin1String("STATISTIK")) bild_->setStatistik(gedrueckt);
   if (key == QLatin1String("x")) schalter(Info().ZeigeMittel, gedrueckt);
   if (key == QLatin1String("s")) schalter(Info().ZeigeStreuung, gedrueckt);
@@ -284,33 +215,7 @@ void FormPosition::taste(const QString& key, bool gedrueckt) {
   if (key == QLatin1String("MPL")) cursor(-1);
   if (key == QLatin1String("MPR")) cursor(1);
   if (key == QLatin1String("OFFSET")) offset(gedrueckt);
-  if (key == QLatin1String("HILFE") && p_.hilfe) p_.hilfe();
-}
-
-void FormPosition::M_Neu() {
-  ausserhalbDesTakts([this] {
-    if (befehle_.M_Neu([this] { zyklus().laufBeenden(); })) datenZeigen();
-  });
-}
-
-void FormPosition::M_Oeffnen() {
-  ausserhalbDesTakts([this] {
-    if (befehle_.M_Oeffnen([this] { zyklus().laufBeenden(); })) datenZeigen();
-  });
-}
-
-void FormPosition::M_Speichern() {
-  ausserhalbDesTakts([this] {
-    befehle_.M_Speichern();
-    titelZeigen();
-  });
-}
-
-void FormPosition::M_SpeichernUnter() {
-  ausserhalbDesTakts([this] {
-    befehle_.M_SpeichernUnter();
-    titelZeigen();
-  });
+  DatenFenster::taste(key, gedrueckt);
 }
 
 void FormPosition::M_MessLöschen() {
@@ -324,18 +229,13 @@ void FormPosition::M_MessLöschen() {
 void FormPosition::M_EinrichtInfo() {
   ausserhalbDesTakts([this] {
     // The key of the head may have begun a run since the click.
-    if (!p_.einrichten || zyklus().laeuft()) return;
+    if (!dienste().einrichten || zyklus().laeuft()) return;
     {
       const TastenSperre sperre(p_.erfassung);
-      p_.einrichten(*this, [this](std::function<void()> befehl) { ausserhalbDesTakts(std::move(befehl)); });
+      dienste().einrichten(*this,
+                           [this](std::function<void()> befehl) { ausserhalbDesTakts(std::move(befehl)); });
     }
     datenZeigen();
-  });
-}
-
-void FormPosition::M_ProtokollDrucken() {
-  ausserhalbDesTakts([this] {
-    if (p_.protokollDrucken) p_.protokollDrucken(this);
   });
 }
 

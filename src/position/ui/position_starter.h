@@ -1,43 +1,32 @@
 #pragma once
 
-#include <QWidget>
-#include <functional>
-#include <memory>
-#include <string>
-
-#include "frame/datei_verteilung.h"
+#include "link/ui/window_starter.h"
+#include "position/commands.h"
 #include "position/ui/form_position.h"
 
 namespace korvin {
 
-/// What starting the position window takes. All but the two functions outlive it.
-struct PositionStart {
-  ZyklusUmgebung zyklus;
-  FORMPOS& formpos;
-  PositionsErfassung& erfassung;
-  PositionsDateien& dateien;
-  FileDialog& fileDialog;
-  FileSystem& fileSystem;
-  std::function<std::unique_ptr<MSComm>()> neuesMSComm;  ///< each window has a serial control of its own
-  std::function<void()> hilfe;                           ///< opens the help
-  EinrichtenDialog einrichten{};
-  std::function<void(QWidget* fenster)> protokollDrucken{};  ///< shows the print dialog over the window
-};
-
-/// Position measuring as the main window starts it: with new data or with a loaded file.
-class PositionStarter : public MessartEmpfaenger {
+/// Position measuring as the main window starts it.
+class PositionStarter : public FensterStarter {
  public:
-  explicit PositionStarter(PositionStart start) : s_(std::move(start)) {}
+  /// All outlive it.
+  PositionStarter(FensterStart start, FORMPOS& formpos, PositionsErfassung& erfassung,
+                  PositionsDateien& dateien)
+      : FensterStarter(std::move(start)),
+        formpos_(formpos),
+        erfassung_(erfassung),
+        dateien_(dateien),
+        daten_(formpos, erfassung, dateien) {}
 
-  /// The window over which `FormPosition` lies; null while there is none.
-  void setFenster(QWidget* fenster) { fenster_ = fenster; }
-
-  bool laden(const std::string& name) override;
-  void zeigen(std::int16_t DateiStatus) override;
+ protected:
+  Messdaten& daten() override { return daten_; }
+  std::unique_ptr<Messfenster> neuesFenster(MSComm& control, QWidget* ueber) override;
 
  private:
-  PositionStart s_;
-  QWidget* fenster_ = nullptr;
+  FORMPOS& formpos_;
+  PositionsErfassung& erfassung_;
+  PositionsDateien& dateien_;
+  PositionsDaten daten_;
 };
 
 }  // namespace korvin

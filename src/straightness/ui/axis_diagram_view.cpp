@@ -33,6 +33,11 @@ std::span<const double> pointsOf(const AchsenRahmen& rahmen) {
   return rahmen.z.first(std::min(rahmen.z.size(), static_cast<std::size_t>(rahmen.AnzMPs) + 1));
 }
 
+bool isArrow(const QKeyEvent& event) {
+  const bool arrow = event.key() == Qt::Key_Left || event.key() == Qt::Key_Right;
+  return arrow && !event.modifiers().testFlag(Qt::ControlModifier);
+}
+
 bool looksTheSame(const AchsenRahmen& a, const AchsenRahmen& b) {
   return a.R == b.R && a.Distanz == b.Distanz && a.Gitter == b.Gitter && a.einheit == b.einheit &&
          a.AnzMPs == b.AnzMPs && std::ranges::equal(pointsOf(a), pointsOf(b));
@@ -120,9 +125,17 @@ void PictureAchsenDiagramm::released() {
   if (given_ && onReleased) onReleased();
 }
 
+bool PictureAchsenDiagramm::event(QEvent* event) {
+  // The arrow keys shift a held point, although the window has them as shortcuts.
+  if (event->type() == QEvent::ShortcutOverride && isHeld() && isArrow(*static_cast<QKeyEvent*>(event))) {
+    event->accept();
+    return true;
+  }
+  return PictureWidget::event(event);
+}
+
 void PictureAchsenDiagramm::keyPressEvent(QKeyEvent* event) {
-  const bool arrow = event->key() == Qt::Key_Left || event->key() == Qt::Key_Right;
-  if (!arrow || !isHeld() || event->modifiers().testFlag(Qt::ControlModifier)) {
+  if (!isHeld() || !isArrow(*event)) {
     PictureWidget::keyPressEvent(event);
     return;
   }

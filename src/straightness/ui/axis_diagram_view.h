@@ -57,6 +57,7 @@ class PictureAchsenDiagramm : public PictureWidget {
   void released() override;
   /// The pointer always tells what a press does.
   void showPointer(bool hinted) override { static_cast<void>(hinted); }
+  bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:

@@ -597,7 +597,7 @@ TEST_F(Data, ExecutedWindowReturnsWhenItIsClosedAndCanBeDeletedThen) {
   ZyklusUmgebung zyklus{world.clock,  world.clock,   world.clock,  world.messages, dictionary(),
                         world.profil, world.meldung, world.korCom, world.answer,   world.system};
   form = std::make_unique<FormPosition>(
-      PositionUmgebung{zyklus, world.head, formpos, erfassung(), dateien, fileDialog, fileSystem, {}});
+      PositionUmgebung{zyklus, world.head, formpos, erfassung(), dateien, services()});
   QTimer::singleShot(0, [this] { form->close(); });
   QTimer::singleShot(0, [this] { world.clock.advance(1); });
   form->ausfuehren();

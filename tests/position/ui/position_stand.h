@@ -34,13 +34,16 @@ class PositionStand : public ::testing::Test {
     ZyklusUmgebung zyklus{world.clock,  world.clock,   world.clock,  world.messages, dictionary(),
                           world.profil, world.meldung, world.korCom, world.answer,   world.system};
     form = std::make_unique<FormPosition>(
-        PositionUmgebung{zyklus, world.head, formpos, erfassung(), dateien, fileDialog, fileSystem,
-                         [this] { ++helpOpened; }, settingsHook(), [this](QWidget* over) { printed(over); }});
+        PositionUmgebung{zyklus, world.head, formpos, erfassung(), dateien, services()});
     form->resize(1024, 768);
     form->show();
     form->zeigen();
     QApplication::setActiveWindow(form.get());
     settle();
+  }
+  FensterDienste services() {
+    return {fileDialog, fileSystem, [this] { ++helpOpened; }, settingsHook(),
+            [this](QWidget* over) { printed(over); }};
   }
   EinrichtenDialog settingsHook() {
     return [this](QWidget& window, const auto& outsideOfTicks) {

@@ -10,18 +10,13 @@ class Starter : public test::PositionStand {
   PositionStarter starter() {
     ZyklusUmgebung zyklus{world.clock,  world.clock,   world.clock,  world.messages, dictionary(),
                           world.profil, world.meldung, world.korCom, world.answer,   world.system};
-    return PositionStarter({zyklus,
-                            formpos,
-                            erfassung(),
-                            dateien,
-                            fileDialog,
-                            fileSystem,
+    return PositionStarter({zyklus, services(),
                             [this] {
                               auto control = std::make_unique<test::ScriptedHead>(world.clock);
                               controls.push_back(control.get());
                               return control;
-                            },
-                            {}});
+                            }},
+                           formpos, erfassung(), dateien);
   }
   /// Looks at the window once it is shown, and closes it.
   void whenShown(std::function<void(FormPosition&)> look) {
