@@ -60,6 +60,10 @@ BEAM
                           start, -100 to 100 (default 0). Y counts as the
                           head counts it; KORVIN may show the other sign.
     --drift X,Y           movement in mm per hour (default 0,0)
+    --line TILT,BOW,NOISE the head is carried along a guideway, on to the next
+                          point after each M answer: after n points X lies
+                          TILT n + BOW n^2 um off, Y half of that the other
+                          way; NOISE as in --noise
     --noise UM            standard deviation of a reading in um after 1 s of
                           averaging (default 0.5). It falls with the square
                           root of the time: a tenth of it after 100 s.

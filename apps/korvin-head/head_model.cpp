@@ -24,9 +24,18 @@ char kindOf(const Request& request, char key) {
 }  // namespace
 
 Beam driftingBeam(Spot start, Spot mmPerHour) {
-  return [start, mmPerHour](double seconds) {
-    const double hours = seconds / kSecondsPerHour;
+  return [start, mmPerHour](const Moment& moment) {
+    const double hours = moment.seconds / kSecondsPerHour;
     return Spot{start.xMm + mmPerHour.xMm * hours, start.yMm + mmPerHour.yMm * hours};
+  };
+}
+
+Beam alongLine(Beam beam, LineShape shape) {
+  return [beam = std::move(beam), shape](const Moment& moment) {
+    const Spot spot = beam(moment);
+    const auto n = static_cast<double>(moment.measured);
+    const double offMm = (shape.tiltUm * n + shape.bowUm * n * n) / kUmPerMm;
+    return Spot{spot.xMm + offMm, spot.yMm - offMm / 2};
   };
 }
 
@@ -62,12 +71,13 @@ std::string HeadModel::answer(const Request& request, char key, double now) {
   const char status = now >= properties_.batteryLowAfter ? 'B' : '-';
   std::string columns{properties_.headClass, '-', key, status, kindOf(request, key)};
   if (request.command != 'T') columns += reading(request, now);
+  if (request.command == 'M') ++measured_;
   return columns;
 }
 
 std::string HeadModel::reading(const Request& request, double now) {
   const double sigmaMm = noiseAfter(properties_.noiseUm, averagingSeconds(request)) / kUmPerMm;
-  const Spot spot = beam_(now);
+  const Spot spot = beam_({now, measured_});
   const long x = rawCount(spot.xMm + sigmaMm * normal_(generator_));
   const long y = rawCount(spot.yMm + sigmaMm * normal_(generator_));
   std::array<char, 32> text{};

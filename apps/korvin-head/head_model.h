@@ -17,11 +17,28 @@ struct Spot {
   double yMm = 0;
 };
 
-/// Where the beam is at a moment (seconds since the head's start). Another kind of beam is another function.
-using Beam = std::function<Spot(double seconds)>;
+/// What a beam goes by: seconds since the head's start, and how many M answers the head has given.
+struct Moment {
+  double seconds = 0;
+  long measured = 0;
+};
+
+/// Where the beam is at a moment. Another kind of beam is another function.
+using Beam = std::function<Spot(const Moment& moment)>;
 
 /// A beam that starts at `start` and moves evenly by `mmPerHour`.
 Beam driftingBeam(Spot start, Spot mmPerHour);
+
+/// The guideway that a head stands on, in um: after n points it lies tilt · n + bow · n² off the line of the
+/// beam.
+struct LineShape {
+  double tiltUm = 0;
+  double bowUm = 0;
+};
+
+/// `beam` as a head sees it that is carried along a guideway, to the next point after each M answer: X moves
+/// by the shape, Y by half of it the other way.
+Beam alongLine(Beam beam, LineShape shape);
 
 /// What makes one head differ from another.
 struct HeadProperties {
@@ -67,6 +84,7 @@ class HeadModel {
   Beam beam_;
   std::mt19937_64 generator_;
   std::normal_distribution<double> normal_;
+  long measured_ = 0;
 };
 
 }  // namespace korvin::head

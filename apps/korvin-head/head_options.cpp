@@ -44,6 +44,22 @@ Spot pair(const std::string& text, double limit) {
           numberIn(std::string_view(text).substr(comma + 1), -limit, limit, what)};
 }
 
+double noise(std::string_view text) {
+  return numberIn(text, 0.0, 10000.0, "a noise in um, 0 to 10000");
+}
+
+void setLine(HeadOptions& options, const std::string& text) {
+  const std::string what = "three numbers, TILT,BOW,NOISE, the first two from -1000 to 1000";
+  const auto first = text.find(',');
+  const auto second = first == std::string::npos ? first : text.find(',', first + 1);
+  if (second == std::string::npos) throw OptionError("needs " + what);
+  const std::string_view all = text;
+  const LineShape shape{numberIn(all.substr(0, first), -1000.0, 1000.0, what),
+                        numberIn(all.substr(first + 1, second - first - 1), -1000.0, 1000.0, what)};
+  options.config.head.noiseUm = noise(all.substr(second + 1));
+  options.config.guideway = shape;
+}
+
 double seconds(const std::string& text) {
   return numberIn(text, 0.0, 86400.0, "a time in seconds, 0 to 86400");
 }
@@ -104,10 +120,8 @@ std::vector<Option> beamOptions() {
       {"--x", true, [](auto& o, auto& v) { o.config.start.xMm = position(v); }},
       {"--y", true, [](auto& o, auto& v) { o.config.start.yMm = position(v); }},
       {"--drift", true, [](auto& o, auto& v) { o.config.driftMmPerHour = pair(v, 10000); }},
-      {"--noise", true,
-       [](auto& o, auto& v) {
-         o.config.head.noiseUm = numberIn(v, 0.0, 10000.0, "a noise in um, 0 to 10000");
-       }},
+      {"--noise", true, [](auto& o, auto& v) { o.config.head.noiseUm = noise(v); }},
+      {"--line", true, setLine},
       {"--intensity", true,
        [](auto& o, auto& v) {
          o.config.head.intensity = numberIn(v, 0, 99, "an intensity in percent, 0 to 99");

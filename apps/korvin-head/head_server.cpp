@@ -26,8 +26,9 @@ timespec spanOf(double seconds) {
 }
 
 HeadMachine machineOf(const HeadConfig& config) {
-  return {HeadModel(config.head, driftingBeam(config.start, config.driftMmPerHour)),
-          FaultInjector(config.faults), KeyPad(config.keyScript, config.keyHoldSeconds), config.line};
+  return {
+      HeadModel(config.head, alongLine(driftingBeam(config.start, config.driftMmPerHour), config.guideway)),
+      FaultInjector(config.faults), KeyPad(config.keyScript, config.keyHoldSeconds), config.line};
 }
 
 }  // namespace

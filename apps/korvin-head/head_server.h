@@ -21,6 +21,7 @@ struct HeadConfig {
   HeadProperties head;
   Spot start;           ///< beam at the start
   Spot driftMmPerHour;  ///< and its movement
+  LineShape guideway;   ///< what the head is carried along, point by point
   FaultSettings faults;
   std::vector<ScriptedKey> keyScript;
   double keyHoldSeconds = 0;

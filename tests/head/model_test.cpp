@@ -56,6 +56,16 @@ TEST(Model, TheBatteryGetsLowAtItsTime) {
   EXPECT_EQ(answerOf(properties, {}, kT, 'K', 10), "1-KBT");
 }
 
+TEST(Model, AnMAnswerCarriesTheHeadOnAlongItsLine) {
+  HeadModel model(still(), alongLine(driftingBeam({0.1, 0.2}, {}), {10, -2}));
+  EXPECT_EQ(model.answer(kJ, 'K', 0), "1-K-j 251000 252000 00000 85");
+  EXPECT_EQ(model.answer(kM, 'K', 0), "1-K-m 251000 252000 00000 85");
+  EXPECT_EQ(model.answer(kT, 'K', 0), "1-K-T");
+  EXPECT_EQ(model.answer(kJ, 'K', 0), "1-K-j 251080 251960 00000 85");
+  EXPECT_EQ(model.answer(kM, 'K', 9), "1-K-m 251080 251960 00000 85");
+  EXPECT_EQ(model.answer(kM, 'K', 9), "1-K-m 251120 251940 00000 85") << "2 points: 20 - 8 um";
+}
+
 TEST(Model, TheBeamDriftsByTheHour) {
   HeadModel model(still(), driftingBeam({1, -1}, {0.36, -3.6}));
   EXPECT_EQ(model.answer(kJ, 'K', 100), "1-K-j 260100 239000 00000 85");

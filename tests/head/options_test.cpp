@@ -46,6 +46,8 @@ TEST(Options, EachReachesItsPlace) {
                                             "1.5",
                                             "--y",
                                             "-0.25",
+                                            "--line",
+                                            "12,-2.5,0.25",
                                             "--drift",
                                             "-1,2.5",
                                             "--noise",
@@ -80,6 +82,8 @@ TEST(Options, EachReachesItsPlace) {
   EXPECT_EQ(config.head.id, '4');
   EXPECT_EQ(config.start.xMm, 1.5);
   EXPECT_EQ(config.start.yMm, -0.25);
+  EXPECT_EQ(config.guideway.tiltUm, 12);
+  EXPECT_EQ(config.guideway.bowUm, -2.5);
   EXPECT_EQ(config.driftMmPerHour.xMm, -1);
   EXPECT_EQ(config.driftMmPerHour.yMm, 2.5);
   EXPECT_EQ(config.head.noiseUm, 2);
@@ -115,6 +119,8 @@ TEST(Options, WrongOnesAreNamedWithWhatTheyNeed) {
   EXPECT_THAT(complaint({"--x", "nan"}), HasSubstr("length in mm"));
   EXPECT_THAT(complaint({"--y", "1,5"}), HasSubstr("length in mm"));
   EXPECT_THAT(complaint({"--drift", "1"}), HasSubstr("two numbers"));
+  for (const char* wrong : {"1", "1,2", "1,2,-1", "1,2000,0", "a,b,c", "1,2,3,4"})
+    EXPECT_THAT(complaint({"--line", wrong}), HasSubstr("--line " + std::string(wrong))) << wrong;
   EXPECT_THAT(complaint({"--noise", "-1"}), HasSubstr("noise in um"));
   EXPECT_THAT(complaint({"--intensity", "100"}), HasSubstr("0 to 99"));
   EXPECT_THAT(complaint({"--time-scale", "inf"}), HasSubstr("0 to 100"));

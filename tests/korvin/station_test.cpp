@@ -82,10 +82,14 @@ TEST_F(StationTest, TheSecondStartAsksNothingAndKeepsTheLanguage) {
             QStringLiteral("Positionsmätning"));
 }
 
-TEST_F(StationTest, PositionIsReadyOtherKindsAreNot) {
+TEST_F(StationTest, PositionAndStraightnessAreReadyOtherKindsAreNot) {
   ASSERT_TRUE(start());
-  EXPECT_TRUE(station->window().findChild<QAction*>(QStringLiteral("M_Position"))->isEnabled());
-  EXPECT_FALSE(station->window().findChild<QAction*>(QStringLiteral("M_Geradheit"))->isEnabled());
+  const auto ready = [this](const char* entry) {
+    return station->window().findChild<QAction*>(QString::fromUtf8(entry))->isEnabled();
+  };
+  EXPECT_TRUE(ready("M_Position"));
+  EXPECT_TRUE(ready("M_Geradheit"));
+  EXPECT_FALSE(ready("M_Parallel"));
 }
 
 TEST_F(StationTest, ASettingsFileThatIsNoDatabaseIsKeptAndTold) {

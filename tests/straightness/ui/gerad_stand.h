@@ -65,7 +65,10 @@ class GeradStand : public ::testing::Test {
   }
   bool pressed(const char* name) { return bar().isPressed(QString::fromUtf8(name)); }
   bool enabled(const char* name) { return bar().isKeyEnabled(QString::fromUtf8(name)); }
-  bool keyShown(const char* name) { return key(name)->isVisibleTo(form.get()); }
+  bool keyShown(const char* name) {
+    settle();  // a tool bar lays itself out anew when the queue runs
+    return key(name)->isVisibleTo(form.get());
+  }
   void type(Qt::Key k, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(form.get(), k, modifiers); }
   QAction* entry(const char* name) { return form->findChild<QAction*>(QString::fromUtf8(name)); }
   QWidget* widget(const char* name) { return form->findChild<QWidget*>(QString::fromUtf8(name)); }

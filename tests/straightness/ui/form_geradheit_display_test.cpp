@@ -1,0 +1,238 @@
+// What the straightness window shows of a series: evaluation, statistics, tolerances, ranges, big numbers,
+// table.
+
+#include <QAction>
+#include <QClipboard>
+#include <QGuiApplication>
+
+#include "gerad_stand.h"
+
+namespace korvin {
+namespace {
+
+class Display : public test::GeradStand {
+ protected:
+  /// Six points, in mm: X 0 0.02 0.02 0.01 0.03 0, Y the negative.
+  void measureLine() {
+    show();
+    takePoints({0, 0.02, 0.02, 0.01, 0.03, 0});
+    click("ROH");
+  }
+  void tolerances() {
+    series().X.Gesamt = 0.02;
+    series().X.ToleranzBezug = 1;
+    series().X.WertPro = 0.005;
+    series().X.ProEinheit = 1000;
+  }
+};
+
+TEST_F(Display, EvaluationIsOneOfThreeAndItsKeyStaysPressed) {
+  measureLine();
+  EXPECT_TRUE(pressed("ROH"));
+  EXPECT_EQ(cell(1, LineTableModel::X), "0.0200");
+  click("ISO");
+  EXPECT_TRUE(pressed("ISO"));
+  EXPECT_FALSE(pressed("ROH"));
+  EXPECT_EQ(cell(1, LineTableModel::X), "0.0075");
+  EXPECT_FALSE(keyShown("REF1"));
+  click("REF");
+  EXPECT_TRUE(keyShown("REF1"));
+  EXPECT_TRUE(keyShown("REF2"));
+  click("REF");
+  EXPECT_TRUE(pressed("REF")) << "a click on the pressed key keeps it";
+  EXPECT_EQ(info().Auswertung, AuswertungREF);
+  type(Qt::Key_3, Qt::AltModifier);
+  EXPECT_TRUE(pressed("ROH"));
+  EXPECT_FALSE(keyShown("REF2"));
+}
+
+TEST_F(Display, ReferencePointsAreTakenAtTheCursor) {
+  measureLine();
+  click("REF");
+  EXPECT_EQ(line().AktMP, 6);
+  const int before = world.messages.beeps;
+  click("REF1");
+  EXPECT_EQ(info().Ref1, 1) << "not behind Ref2";
+  EXPECT_EQ(world.messages.beeps, before + 1);
+  type(Qt::Key_Left);
+  click("REF2");
+  EXPECT_EQ(info().Ref2, 5);
+  for (int i = 0; i < 3; ++i) type(Qt::Key_Left);
+  click("REF1");
+  EXPECT_EQ(info().Ref1, 2);
+  EXPECT_EQ(cell(1, LineTableModel::X), "0.0000");
+  EXPECT_EQ(cell(4, LineTableModel::X), "0.0000");
+  EXPECT_EQ(cell(2, LineTableModel::X), "-0.0033");
+  EXPECT_EQ(text("PanelxWertNormal"), " 0.0000");
+}
+
+TEST_F(Display, EvaluationDoesNotCountAsAChange) {
+  measureLine();
+  info().Geaendert = false;
+  for (const char* each : {"REF", "ISO", "ROH", "STATISTIK", "x", "XYAMPL", "XNZOOM", "ZMMOD"}) click(each);
+  EXPECT_FALSE(info().Geaendert);
+}
+
+TEST_F(Display, StatisticsKeysAppearAndSwitchTheRows) {
+  measureLine();
+  for (const char* each : {"x", "s", "R", "t"}) EXPECT_FALSE(keyShown(each)) << each;
+  type(Qt::Key_F2);
+  for (const char* each : {"x", "s", "R", "t"}) EXPECT_TRUE(keyShown(each)) << each;
+  EXPECT_FALSE(shown("PanelXStatistik(0)"));
+  click("x");
+  EXPECT_TRUE(info().ZeigeMittel);
+  EXPECT_EQ(text("PanelXStatistik(0)"), "x 0.0133");
+  EXPECT_EQ(text("PanelYStatistik(0)"), "x -0.0133");
+  EXPECT_FALSE(shown("PanelXStatistik(1)"));
+  click("s");
+  EXPECT_EQ(text("PanelXStatistik(1)"), "±1s 0.0121");
+  click("R");
+  EXPECT_EQ(text("PanelXStatistik(2)"), "R 0.0300");
+  click("x");
+  EXPECT_FALSE(info().ZeigeMittel);
+  EXPECT_FALSE(shown("PanelXStatistik(0)"));
+  EXPECT_TRUE(shown("PanelXStatistik(2)"));
+  click("STATISTIK");
+  EXPECT_FALSE(keyShown("R"));
+  EXPECT_TRUE(shown("PanelXStatistik(2)")) << "the key hides keys, not results";
+}
+
+TEST_F(Display, TolerancesAllowedAndMeasured) {
+  measureLine();
+  tolerances();
+  click("STATISTIK");
+  click("t");
+  EXPECT_EQ(text("PanelXStatistik(5)"), "±0.010");
+  EXPECT_EQ(text("PanelXStatistik(6)"), "0.005/1000.0");
+  EXPECT_EQ(text("PanelXStatistik(7)"), "0.0300 , 0.0000");
+  EXPECT_EQ(text("PanelXStatistik(8)"), "0.0300/1000.0/4");
+  EXPECT_EQ(text("PanelYStatistik(5)"), "?.?") << "no tolerance of Y";
+  EXPECT_EQ(text("PanelYStatistik(7)"), "?.?");
+  EXPECT_EQ(text("PanelYStatistik(8)"), "?.? / ? z ?");
+  click("t");
+  EXPECT_FALSE(shown("PanelXStatistik(5)"));
+}
+
+TEST_F(Display, RangeBarsAppearAndTheirKeysSetTheRange) {
+  measureLine();
+  EXPECT_FALSE(shown("tbrXBereich"));
+  type(Qt::Key_F3);
+  ASSERT_TRUE(shown("tbrXBereich"));
+  ASSERT_TRUE(shown("tbrYBereich"));
+  KeyToolBar& x = bar("tbrXBereich");
+  const auto press = [&](const char* name) {
+    QTest::mouseClick(x.button(QString::fromUtf8(name)), Qt::LeftButton);
+  };
+  EXPECT_TRUE(x.isPressed(QStringLiteral("AUTO")));
+  EXPECT_FALSE(x.isKeyEnabled(QStringLiteral("PLUS")));
+  EXPECT_EQ(text("PanelXStatistik(9)"), "±50um");
+  press("AUTO");
+  EXPECT_TRUE(x.isPressed(QStringLiteral("AUTO"))) << "a click on the pressed key keeps it";
+  press("HAND");
+  EXPECT_TRUE(x.isPressed(QStringLiteral("HAND")));
+  EXPECT_FALSE(x.isPressed(QStringLiteral("AUTO")));
+  press("PLUS");
+  EXPECT_EQ(text("PanelXStatistik(9)"), "±100um");
+  press("MINUS");
+  press("MINUS");
+  EXPECT_EQ(text("PanelXStatistik(9)"), "±20um");
+  EXPECT_EQ(series().X.Bereich, 0.02);
+  EXPECT_EQ(series().Y.Bereichsart, 0) << "each axis has its own";
+  EXPECT_EQ(text("PanelYStatistik(9)"), "±50um");
+  series().X.Gesamt = 0.1;
+  press("TOL");
+  EXPECT_TRUE(x.isPressed(QStringLiteral("TOL")));
+  EXPECT_EQ(series().X.Bereich, 0.05);
+  EXPECT_FALSE(x.isKeyEnabled(QStringLiteral("MINUS")));
+  click("XYAMPL");
+  EXPECT_FALSE(shown("tbrYBereich"));
+}
+
+TEST_F(Display, BigNumberTakesTheRoomOfTheOtherDiagram) {
+  measureLine();
+  click("XNZOOM");
+  EXPECT_TRUE(series().X.NumZoom);
+  EXPECT_TRUE(shown("PanelXWertZoom"));
+  EXPECT_TRUE(shown("PictureXDiagramm"));
+  EXPECT_FALSE(shown("PictureYDiagramm"));
+  EXPECT_TRUE(entry("M_xNumZoom")->isChecked());
+  settle();
+  EXPECT_GT(diagram("X").mapTo(form.get(), QPoint(0, 0)).y(), form->height() * 2 / 5) << "the lower half";
+  EXPECT_EQ(text("LabelXZoom"), "X6");
+  EXPECT_EQ(text("PanelXWertZoom"), " 0.0000");
+  entry("M_yNumZoom")->trigger();
+  EXPECT_TRUE(pressed("YNZOOM"));
+  EXPECT_TRUE(shown("PanelYWertZoom"));
+  EXPECT_FALSE(shown("PictureXDiagramm"));
+  type(Qt::Key_F8);
+  EXPECT_FALSE(shown("PanelXWertZoom"));
+  EXPECT_TRUE(shown("PictureYDiagramm"));
+  type(Qt::Key_F9);
+  EXPECT_TRUE(shown("PictureXDiagramm"));
+  EXPECT_TRUE(shown("PictureYDiagramm"));
+  EXPECT_FALSE(shown("PanelYWertZoom"));
+}
+
+TEST_F(Display, GridOfBothDiagrams) {
+  measureLine();
+  const auto differ = [](const QImage& a, const QImage& b) {
+    int count = 0;
+    for (int y = 0; y < a.height(); ++y)
+      for (int x = 0; x < a.width(); ++x) count += a.pixel(x, y) != b.pixel(x, y);
+    return count;
+  };
+  EXPECT_TRUE(entry("M_Gitter")->isChecked());
+  const QImage withGrid = diagram("Y").grab().toImage();
+  type(Qt::Key_G, Qt::ControlModifier);
+  EXPECT_FALSE(info().Gitter);
+  EXPECT_FALSE(entry("M_Gitter")->isChecked());
+  EXPECT_GT(differ(withGrid, diagram("Y").grab().toImage()), 1000);
+  entry("M_Gitter")->trigger();
+  EXPECT_EQ(differ(withGrid, diagram("Y").grab().toImage()), 0);
+}
+
+TEST_F(Display, TableIsShownHiddenAndCopied) {
+  measureLine();
+  EXPECT_EQ(list().model()->rowCount(), 6);
+  QTest::keyClick(&list(), Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClick(&list(), Qt::Key_C, Qt::ControlModifier);
+  const QStringList lines = QGuiApplication::clipboard()->text().split(QLatin1Char('\n'));
+  ASSERT_EQ(lines.size(), 7);
+  EXPECT_EQ(utf8Text(lines.at(1)), "2\t500.0\t0.0200\t-0.0200");
+  type(Qt::Key_L, Qt::ControlModifier);
+  EXPECT_FALSE(shown("PointList"));
+}
+
+TEST_F(Display, ARowChosenInTheTableIsTheCurrentPoint) {
+  measureLine();
+  QTest::mouseClick(list().viewport(), Qt::LeftButton, {},
+                    list().visualRect(list().model()->index(2, 1)).center());
+  EXPECT_EQ(line().AktMP, 3);
+  EXPECT_EQ(text("PanelMessPkt"), "3 / 6");
+  QTest::keyClick(&list(), Qt::Key_Down);
+  EXPECT_EQ(text("PanelMessPkt"), "4 / 6");
+}
+
+TEST_F(Display, PictureKeysThatComeLaterTellSo) {
+  show();
+  for (const char* each : {"EINRICHTEN", "DRUCKEN", "XYMPKMP"}) {
+    EXPECT_TRUE(keyShown(each)) << each;
+    EXPECT_FALSE(enabled(each)) << each;
+    EXPECT_TRUE(key(each)->toolTip().contains(QStringLiteral("D7030"))) << each;
+  }
+  EXPECT_FALSE(entry("M_EinrichtInfo")->isEnabled());
+  click("XYMPN");
+  run(2);
+  click("XYMPN");
+  run(2);
+  for (const char* each : {"EINRICHTEN", "XYMPKMP"}) EXPECT_FALSE(enabled(each)) << each;
+}
+
+TEST_F(Display, HelpKey) {
+  show();
+  click("HILFE");
+  EXPECT_EQ(helpOpened, 1);
+}
+
+}  // namespace
+}  // namespace korvin
