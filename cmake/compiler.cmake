@@ -14,6 +14,8 @@ add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.)
 
 if(KORVIN_HARDENED)
   set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+  # All is linked into programs, so that no function can be exchanged by a library: calls may be inlined.
+  add_compile_options(-fno-semantic-interposition)
   add_compile_options(-fstack-protector-strong -fstack-clash-protection -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3)
   add_compile_definitions(_GLIBCXX_ASSERTIONS)
   add_link_options(-pie -Wl,-z,relro,-z,now)

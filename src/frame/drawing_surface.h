@@ -75,7 +75,12 @@ class DrawingSurface {
   virtual void polyline(std::span<const DataPoint> points, const Stroke& stroke) = 0;
   /// A round circle on every medium; `radius` is measured along x.
   virtual void circle(DataPoint centre, double radius, const Stroke& stroke) = 0;
-  /// The same, filled.
+  /// The same circle around each of `centres`, in turn; a medium that can do many at once quicker than one by
+  /// one does so.
+  virtual void circles(std::span<const DataPoint> centres, double radius, const Stroke& stroke) {
+    for (const DataPoint centre : centres) circle(centre, radius, stroke);
+  }
+  /// A circle, filled.
   virtual void disc(DataPoint centre, double radius, Farbe colour) = 0;
   /// A filled rectangle between two opposite corners.
   virtual void fill(DataPoint corner, DataPoint opposite, Farbe colour) = 0;

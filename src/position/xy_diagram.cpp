@@ -1,7 +1,10 @@
 #include "position/xy_diagram.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstddef>
+#include <utility>
 
 #include "frame/bereich.h"
 #include "frame/leerwert.h"
@@ -9,9 +12,10 @@
 namespace korvin {
 namespace {
 
-constexpr double PunktTeil = 125;   // radius of a point: this part of the range
-constexpr double MarkenTeil = 75;   // radius of the circle round the current point
-constexpr double TrefferTeil = 50;  // reach of a press along each axis
+constexpr double PunktTeil = 125;         // radius of a point: this part of the range
+constexpr double MarkenTeil = 75;         // radius of the circle round the current point
+constexpr double TrefferTeil = 50;        // reach of a press along each axis
+constexpr std::size_t PunkteJeZug = 256;  // handed to the surface at once
 
 /// Reads the points without a check at each of them: numbers are held within the arrays before.
 double wertVon(const PunktFeld& werte, int nummer) {
@@ -48,10 +52,15 @@ void XYDiagramm::punkteZeichnen(DrawingSurface& surface, int von, int bis) const
   const double radius = datei_.X.Bereich / PunktTeil;
   const Stroke strich{FarbeMesspunkt};
   const int letzter = std::min(bis, anzahl());
+  std::array<DataPoint, PunkteJeZug> zug;
+  std::size_t im = 0;
   for (int nummer = std::max(von, 1); nummer <= letzter; ++nummer) {
     const auto stelle = ort(nummer);
-    if (stelle && imBereich(*stelle)) surface.circle(*stelle, radius, strich);
+    if (!stelle || !imBereich(*stelle)) continue;
+    zug[im++] = *stelle;
+    if (im == zug.size()) surface.circles({zug.data(), std::exchange(im, 0)}, radius, strich);
   }
+  surface.circles({zug.data(), im}, radius, strich);
 }
 
 void XYDiagramm::punkteZeichnen(DrawingSurface& surface) const {

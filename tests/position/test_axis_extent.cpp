@@ -55,6 +55,17 @@ TEST_F(AxisExtentTest, GrowsWithThePoints) {
   EXPECT_EQ(kept(), 3);
 }
 
+TEST_F(AxisExtentTest, TheFarthestIsFoundAtEveryPlace) {
+  for (int count = 1; count <= 11; ++count) {
+    for (int far = 0; far < count; ++far) {
+      formpos.messungLoeschen();
+      for (int i = 0; i < count; ++i) point(i == far ? -7 : i == far + 1 ? Leerwert : 2);
+      axis().BereichAlt = 0;
+      EXPECT_EQ(kept(), 7) << far << " of " << count;
+    }
+  }
+}
+
 TEST_F(AxisExtentTest, PointsWithoutValueAreSkippedThoughTheExtremesOfTheRecordCountThem) {
   point(1);
   point(Leerwert);

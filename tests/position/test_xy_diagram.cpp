@@ -270,6 +270,23 @@ TEST_F(XYDiagrammTest, OneNewPointIsOneCircle) {
   EXPECT_EQ(surface.ops.at(0).points.at(0), (DataPoint{0.0001 * 5, 0.0001}));
 }
 
+TEST_F(XYDiagrammTest, ManyPointsAreDrawnOnceEachInTheirOrder) {
+  // About as many as are handed to the surface at once, and more.
+  for (const int count : {255, 256, 257, 512, 700}) {
+    formpos.messungLoeschen();
+    std::vector<DataPoint> seen;
+    for (int i = 0; i < count; ++i) {
+      point(0.001 * i, -0.002 * i);
+      seen.push_back({0.001 * i, -0.002 * i});
+      if (i % 50 == 7) point(Leerwert, 0);
+    }
+    RecordingSurface surface = drawn();
+    std::vector<DataPoint> circles;
+    for (const DrawingOp& op : circlesOf(surface, FarbeMesspunkt)) circles.push_back(op.points.at(0));
+    EXPECT_EQ(circles, seen) << count;
+  }
+}
+
 TEST_F(XYDiagrammTest, NumbersOutsideThePointsDrawNothing) {
   XYDiagramm d = diagram();
   point(0, 0);

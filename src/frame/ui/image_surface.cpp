@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "frame/ui/qt_colour.h"
+#include "frame/ui/vector_registers.h"
 
 namespace korvin {
 namespace {
@@ -16,6 +18,28 @@ constexpr std::size_t stampsKept = 16;
 double inSteps(double pixels) {
   return std::round(pixels * 16) / 16;
 }
+
+/// The smallest rectangle of pixels that holds all that were added.
+class Extent {
+ public:
+  void add(int x, int y) {
+    left_ = std::min(left_, x);
+    right_ = std::max(right_, x);
+    top_ = std::min(top_, y);
+    bottom_ = std::max(bottom_, y);
+  }
+  /// With `reach` pixels more on each side; empty if nothing was added.
+  QRect grown(int reach) const {
+    if (left_ > right_) return {};
+    return QRect(QPoint(left_, top_), QPoint(right_, bottom_)).adjusted(-reach, -reach, reach, reach);
+  }
+
+ private:
+  int left_ = std::numeric_limits<int>::max();
+  int top_ = std::numeric_limits<int>::max();
+  int right_ = std::numeric_limits<int>::min();
+  int bottom_ = std::numeric_limits<int>::min();
+};
 
 }  // namespace
 
@@ -61,37 +85,50 @@ const MarkStamp* ImageSurface::stampOf(const Marker& marker) {
   return stamp_;
 }
 
-void ImageSurface::press(const MarkStamp& stamp, DataPoint centre) {
-  const QPointF middle = place(centre);
+const MarkStamp* ImageSurface::stampOfCircle(double radius, const Stroke& stroke) {
+  return stroke.style == LineStyle::solid ? stampOf({radius, stroke.width, stroke.colour}) : nullptr;
+}
+
+void ImageSurface::press(const MarkStamp& stamp, std::span<const DataPoint> centres) {
+  releaseVectorRegisters();
   constexpr int margin = static_cast<int>(largestStamp) + 2;
-  const bool seen = middle.x() > -margin && middle.y() > -margin && middle.x() < pixels_.width + margin &&
-                    middle.y() < pixels_.height + margin;
-  if (!seen) return;
-  // Rounded down: what is cut off here is positive.
-  const int x = static_cast<int>(middle.x() + margin) - margin;
-  const int y = static_cast<int>(middle.y() + margin) - margin;
-  stamp.press(pixels_, x, y);
-  const int reach = stamp.reach();
-  if (pressed_.isNull()) pressed_ = QRect(x, y, 1, 1);
-  pressed_.setCoords(std::min(pressed_.left(), x - reach), std::min(pressed_.top(), y - reach),
-                     std::max(pressed_.right(), x + reach), std::max(pressed_.bottom(), y + reach));
+  // Copies: to the compiler, a pixel that is written could be any member.
+  const Mapping map = mapping();
+  const Pixels pixels = pixels_;
+  const double width = pixels.width + margin;
+  const double height = pixels.height + margin;
+  Extent extent;
+  for (const DataPoint centre : centres) {
+    const QPointF middle = map.place(centre);
+    const bool seen =
+        middle.x() > -margin && middle.y() > -margin && middle.x() < width && middle.y() < height;
+    if (!seen) continue;
+    // Rounded down: what is cut off here is positive.
+    const int x = static_cast<int>(middle.x() + margin) - margin;
+    const int y = static_cast<int>(middle.y() + margin) - margin;
+    stamp.press(pixels, x, y);
+    extent.add(x, y);
+  }
+  changed_ |= extent.grown(stamp.reach());
 }
 
 void ImageSurface::circle(DataPoint centre, double radius, const Stroke& stroke) {
+  circles({&centre, 1}, radius, stroke);
+}
+
+void ImageSurface::circles(std::span<const DataPoint> centres, double radius, const Stroke& stroke) {
   if (!std::isfinite(radius)) return;
-  const MarkStamp* stamp =
-      stroke.style == LineStyle::solid ? stampOf({radius, stroke.width, stroke.colour}) : nullptr;
-  if (stamp != nullptr) {
-    press(*stamp, centre);
+  if (const MarkStamp* stamp = stampOfCircle(radius, stroke)) {
+    press(*stamp, centres);
   } else {
-    PainterSurface::circle(centre, radius, stroke);
+    for (const DataPoint centre : centres) PainterSurface::circle(centre, radius, stroke);
   }
 }
 
 void ImageSurface::disc(DataPoint centre, double radius, Farbe colour) {
   if (!std::isfinite(radius)) return;
   if (const MarkStamp* stamp = stampOf({radius, 0, colour})) {
-    press(*stamp, centre);
+    press(*stamp, {&centre, 1});
   } else {
     PainterSurface::disc(centre, radius, colour);
   }

@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QRect>
 #include <deque>
+#include <span>
 
 #include "frame/ui/mark_stamp.h"
 #include "frame/ui/painter_surface.h"
@@ -29,10 +30,11 @@ class ImageSurface : public PainterSurface {
 
   void setWindow(const DataWindow& window) override;
   void circle(DataPoint centre, double radius, const Stroke& stroke) override;
+  void circles(std::span<const DataPoint> centres, double radius, const Stroke& stroke) override;
   void disc(DataPoint centre, double radius, Farbe colour) override;
 
   /// All pixels that were drawn on; empty if there are none.
-  QRect changed() const { return (changed_ | pressed_) & picture_.rect(); }
+  QRect changed() const { return changed_ & picture_.rect(); }
 
  protected:
   QPainter& painter() override;
@@ -49,14 +51,15 @@ class ImageSurface : public PainterSurface {
 
   /// Null for a marker that is too large to be stamped.
   const MarkStamp* stampOf(const Marker& marker);
-  void press(const MarkStamp& stamp, DataPoint centre);
+  /// Null for a circle that the painter has to draw.
+  const MarkStamp* stampOfCircle(double radius, const Stroke& stroke);
+  void press(const MarkStamp& stamp, std::span<const DataPoint> centres);
 
   QImage& picture_;
   StampBox& stamps_;
   QPainter painter_;  ///< begun with the first thing that needs it
   Pixels pixels_;
   QRect changed_;
-  QRect pressed_;  ///< the same for the stamps
   Marker marker_;
   const MarkStamp* stamp_ = nullptr;
 };

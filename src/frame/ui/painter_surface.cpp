@@ -96,17 +96,16 @@ PainterSurface::PainterSurface(QPainter& painter, const PictureMetrics& metrics,
     : painter_(&painter), metrics_(metrics), edges_(edges) {}
 
 void PainterSurface::setWindow(const DataWindow& window) {
-  window_ = window;
-  scale_ = {metrics_.size.width() / (window.right - window.left),
-            metrics_.size.height() / (window.bottom - window.top)};
+  mapping_ = {window, metrics_.size.width() / (window.right - window.left),
+              metrics_.size.height() / (window.bottom - window.top)};
 }
 
 double PainterSurface::radiusOnPicture(double radius) const {
-  return radius * std::fabs(scale_.x);
+  return radius * std::fabs(mapping_.scaleX);
 }
 
 DataSize PainterSurface::lineWidth() {
-  return {metrics_.lineWidth / std::fabs(scale_.x), metrics_.lineWidth / std::fabs(scale_.y)};
+  return {metrics_.lineWidth / std::fabs(mapping_.scaleX), metrics_.lineWidth / std::fabs(mapping_.scaleY)};
 }
 
 void PainterSurface::clear(Farbe ground) {
@@ -207,7 +206,7 @@ void PainterSurface::fill(DataPoint corner, DataPoint opposite, Farbe colour) {
 
 // ---- Texts ----
 
-const PainterSurface::Letters& PainterSurface::letters(const TextLook& look) {
+PainterSurface::Letters& PainterSurface::letters(const TextLook& look) {
   const int pixels = std::max(1, static_cast<int>(std::lround(metrics_.textPixels * look.size)));
   if (letters_ && letters_->pixels == pixels && letters_->bold == look.bold) return *letters_;
   QFont font = QApplication::font();
@@ -218,17 +217,23 @@ const PainterSurface::Letters& PainterSurface::letters(const TextLook& look) {
   return letters_.emplace(Letters{pixels, look.bold, font, QFontMetricsF(font)});
 }
 
+double PainterSurface::Letters::width(std::string_view utf8) {
+  const auto known = widths.find(utf8);
+  if (known != widths.end()) return known->second;
+  return widths.emplace(utf8, metrics.horizontalAdvance(qText(utf8))).first->second;
+}
+
 DataSize PainterSurface::textSize(std::string_view utf8, const TextLook& look) {
-  const QFontMetricsF& size = letters(look).metrics;
-  return {size.horizontalAdvance(qText(utf8)) / std::fabs(scale_.x), size.height() / std::fabs(scale_.y)};
+  Letters& set = letters(look);
+  return {set.width(utf8) / std::fabs(mapping_.scaleX), set.metrics.height() / std::fabs(mapping_.scaleY)};
 }
 
 void PainterSurface::text(DataPoint at, std::string_view utf8, const TextLook& look, Anchor anchor) {
   const QPointF told = place(at);
   if (!isFinite(at) || !isNear(told)) return;
-  const QFontMetricsF& size = letters(look).metrics;
-  const QString words = qText(utf8);
-  const double width = size.horizontalAdvance(words);
+  Letters& set = letters(look);
+  const QFontMetricsF& size = set.metrics;
+  const double width = set.width(utf8);
   const double across = anchor.horizontal == HorizontalAnchor::left     ? 0
                         : anchor.horizontal == HorizontalAnchor::centre ? 0.5
                                                                         : 1;
@@ -238,9 +243,9 @@ void PainterSurface::text(DataPoint at, std::string_view utf8, const TextLook& l
   QPointF corner = told - QPointF(across * width, down * size.height());
   if (edges_ == Edges::crisp) corner = QPointF(std::round(corner.x()), std::round(corner.y()));
   painter().setRenderHint(QPainter::TextAntialiasing);
-  painter().setFont(letters(look).font);
+  painter().setFont(set.font);
   painter().setPen(qColour(look.colour));
-  painter().drawText(corner + QPointF(0, size.ascent()), words);
+  painter().drawText(corner + QPointF(0, size.ascent()), qText(utf8));
   touched(boundsOf(corner, corner + QPointF(width, size.height()), 2));
 }
 

@@ -5,7 +5,11 @@
 #include <QPainter>
 #include <QRectF>
 #include <QSizeF>
+#include <functional>
+#include <map>
 #include <optional>
+#include <string>
+#include <string_view>
 
 #include "frame/drawing_surface.h"
 
@@ -35,7 +39,7 @@ class PainterSurface : public DrawingSurface {
   PainterSurface(QPainter& painter, const PictureMetrics& metrics, Edges edges);
 
   void setWindow(const DataWindow& window) override;
-  const DataWindow& window() const { return window_; }
+  const DataWindow& window() const { return mapping_.window; }
 
   void clear(Farbe ground) override;
   void line(DataPoint from, DataPoint to, const Stroke& stroke) override;
@@ -48,11 +52,19 @@ class PainterSurface : public DrawingSurface {
   DataSize lineWidth() override;
 
   /// Where a data point lies, in units of the painter.
-  QPointF place(DataPoint point) const {
-    return {(point.x - window_.left) * scale_.x, (point.y - window_.top) * scale_.y};
-  }
+  QPointF place(DataPoint point) const { return mapping_.place(point); }
 
  protected:
+  /// From data coordinates to units of the painter.
+  struct Mapping {
+    QPointF place(DataPoint point) const {
+      return {(point.x - window.left) * scaleX, (point.y - window.top) * scaleY};
+    }
+    DataWindow window;
+    double scaleX = 1;
+    double scaleY = 1;
+  };
+
   /// For a surface that makes its painter when one is needed first; see `painter()`.
   PainterSurface(const PictureMetrics& metrics, Edges edges) : metrics_(metrics), edges_(edges) {}
 
@@ -60,15 +72,12 @@ class PainterSurface : public DrawingSurface {
   /// Something was drawn within `area`.
   virtual void touched(const QRectF& area) { static_cast<void>(area); }
 
+  const Mapping& mapping() const { return mapping_; }
   double radiusOnPicture(double radius) const;
   double widthOnPicture(const Stroke& stroke) const { return stroke.width * metrics_.lineWidth; }
   const PictureMetrics& metrics() const { return metrics_; }
 
  private:
-  struct Scale {
-    double x = 1;
-    double y = 1;
-  };
   bool alongAxis(QPointF from, QPointF to, const Stroke& stroke) const;
   void crispLine(QPointF from, QPointF to, const Stroke& stroke);
   struct Letters {
@@ -76,15 +85,17 @@ class PainterSurface : public DrawingSurface {
     bool bold = false;
     QFont font;
     QFontMetricsF metrics;
+    std::map<std::string, double, std::less<>> widths{};
+    /// Measured once: labels are measured several times before they have their place.
+    double width(std::string_view utf8);
   };
   /// Font and its measures, kept for the next text that looks the same.
-  const Letters& letters(const TextLook& look);
+  Letters& letters(const TextLook& look);
 
   QPainter* painter_ = nullptr;
   PictureMetrics metrics_;
   Edges edges_;
-  DataWindow window_;
-  Scale scale_;
+  Mapping mapping_;
   std::optional<Letters> letters_;
 };
 

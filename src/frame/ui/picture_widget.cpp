@@ -15,6 +15,7 @@
 
 #include "frame/ui/qt_text.h"
 #include "frame/ui/theme.h"
+#include "frame/ui/vector_registers.h"
 
 namespace korvin {
 namespace {
@@ -195,6 +196,7 @@ void PictureWidget::paintEvent(QPaintEvent* event) {
   // What an earlier overlay left beside the painted part still stands there.
   const QRect before = event->rect().contains(overlayArea_) ? QRect() : overlayArea_;
   overlayArea_ = before | paintOverlay(painter);
+  releaseVectorRegisters();
 }
 
 QRect PictureWidget::paintOverlay(QPainter& painter) {

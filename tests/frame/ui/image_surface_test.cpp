@@ -5,6 +5,8 @@
 #include <cmath>
 #include <limits>
 #include <set>
+#include <utility>
+#include <vector>
 
 #include "frame/ui/image_surface.h"
 
@@ -229,6 +231,30 @@ TEST(ImageSurfaceStamps, TooSmallAMarkIsStillSeen) {
   Picture p;
   p.surface->disc({50.5, 40.5}, 0.01, 0);
   EXPECT_LT(qRed(p.image.pixel(50, 39)), 128);
+}
+
+TEST(ImageSurfaceStamps, OfManyCirclesAtOnceAreThoseOfSingleOnes) {
+  constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+  std::vector<DataPoint> centres = {{nan, 40}, {1e300, 40}, {-30, 5}, {0, 0}, {100, 80}};
+  for (int i = 0; i < 300; ++i) centres.push_back({50 + 55 * std::sin(i), 40 + 45 * std::cos(i * 1.7)});
+  // Stamps, circles too large for one, and dashed ones.
+  for (const auto& [radius, style] :
+       {std::pair{2.0, LineStyle::solid}, {40.0, LineStyle::solid}, {2.0, LineStyle::dashed}}) {
+    Picture one;
+    Picture all;
+    for (const DataPoint centre : centres) one.surface->circle(centre, radius, {blue, 1, style});
+    all.surface->circles(centres, radius, {blue, 1, style});
+    EXPECT_FALSE(one.blank());
+    EXPECT_EQ(all.image, one.image);
+    EXPECT_EQ(all.surface->changed(), one.surface->changed());
+  }
+}
+
+TEST(ImageSurfaceStamps, OfNoCirclesAreNone) {
+  Picture p;
+  p.surface->circles({}, 2, {blue});
+  EXPECT_TRUE(p.blank());
+  EXPECT_TRUE(p.surface->changed().isEmpty());
 }
 
 // ---- What has changed ----
