@@ -317,6 +317,8 @@ TEST(ImageSurfaceTexts, HaveTheSizeThatIsTold) {
   const QRect ink = inkOf(p.image);
   EXPECT_NEAR(ink.width(), told.width, 3);
   EXPECT_LT(ink.height(), told.height);
+  EXPECT_EQ(p.surface->textSize("+0.002", {}).width, told.width) << "measured before";
+  EXPECT_LT(p.surface->textSize("+0.0", {}).width, told.width) << "another text of the same look";
   const DataSize larger = p.surface->textSize("+0.002", {0, 2, true});
   EXPECT_GT(larger.width, 1.8 * told.width);
   EXPECT_GT(larger.height, 1.8 * told.height);
