@@ -230,6 +230,15 @@ void Hand::waitForRows(const QString& window, int count, double seconds) {
              [=] { return tableOf(window).rowCount() >= count; });
 }
 
+void Hand::waitForNumber(const QString& window, int row, int column, double seconds) {
+  Gui::until("a number in row " + std::to_string(row + 1) + " of the table", seconds, [=] {
+    bool number = false;
+    const QAbstractItemModel& model = tableOf(window);
+    model.index(row, column).data().toString().trimmed().toDouble(&number);
+    return number;
+  });
+}
+
 QStringList Hand::messageText() {
   return gui_.ask([] {
     const auto* box = qobject_cast<QMessageBox*>(findWindow(QStringLiteral("MessageBox")));

@@ -54,6 +54,8 @@ class Hand {
   /// All rows of the window's table, cells parted by tabs.
   QStringList rows(const QString& window);
   void waitForRows(const QString& window, int count, double seconds = 30);
+  /// Waits until the cell of the table, both counted from 0, holds a number.
+  void waitForNumber(const QString& window, int row, int column, double seconds = 30);
   QStringList messageText();
 
  private:

@@ -11,6 +11,7 @@
 #include <optional>
 #include <thread>
 
+#include "guideway.h"
 #include "head_process.h"
 #include "journal.h"
 #include "korvin/application.h"
@@ -21,9 +22,10 @@
 namespace korvin::tour {
 namespace {
 
-constexpr int timeLimit = 200;             ///< seconds for the whole walk
+constexpr int timeLimit = 240;             ///< seconds for the whole walk
 constexpr qsizetype longestFileName = 75;  ///< bytes for a path in a measuring file
 const QString fileName = QStringLiteral("walk.O");
+const QString lineName = QStringLiteral("walk.G");
 const QString reportName = QStringLiteral("walk.pdf");
 
 /// Folders of the walk's own: never the user's settings, never their files.
@@ -46,25 +48,32 @@ class Places {
     return environment;
   }
 
-  /// In `out`, unless its path does not fit a measuring file; then `bringFiles` copies them there.
-  QString file() const {
-    const QString direct = QDir(out_).filePath(fileName);
-    return direct.toUtf8().size() <= longestFileName ? direct : own_.filePath(fileName);
-  }
+  QString file() const { return measuringFile(fileName); }
+  QString line() const { return measuringFile(lineName); }
   QString report() const { return QDir(out_).filePath(reportName); }
   void bringFiles() const {
     if (QFileInfo(file()).absolutePath() == out_) return;
-    for (const char* suffix : {"", "1", "$"}) {
-      QFile::copy(file() + QLatin1String(suffix), QDir(out_).filePath(fileName) + QLatin1String(suffix));
-    }
+    for (const QString& name : measuringFiles()) QFile::copy(own_.filePath(name), QDir(out_).filePath(name));
   }
   void remove() { own_.remove(); }
 
  private:
+  /// All that belongs to the two measurements.
+  static QStringList measuringFiles() {
+    return {fileName, fileName + QLatin1Char('1'), fileName + QLatin1Char('$'), lineName,
+            lineName + QLatin1Char('$')};
+  }
+
+  /// In `out`, unless its path does not fit a measuring file; then `bringFiles` copies it there.
+  QString measuringFile(const QString& name) const {
+    const QString direct = QDir(out_).filePath(name);
+    return direct.toUtf8().size() <= longestFileName ? direct : own_.filePath(name);
+  }
+
   /// What an earlier walk left and this one would meet. Pictures are written over.
   void removeOldFiles() const {
-    const QStringList left = {fileName,   fileName + QLatin1Char('1'), fileName + QLatin1Char('$'),
-                              reportName, QStringLiteral("walk.txt"),  QStringLiteral("failed-*.png")};
+    const QStringList left = measuringFiles() + QStringList{reportName, QStringLiteral("walk.txt"),
+                                                            QStringLiteral("failed-*.png")};
     for (const QString& old : QDir(out_).entryList(left, QDir::Files))
       QFile::remove(QDir(out_).filePath(old));
   }
@@ -83,13 +92,15 @@ class Places {
   QString out_;
 };
 
+using Deadline = std::chrono::steady_clock::time_point;
+
 /// Ends the program when the walk takes too long, whatever hangs.
 class Watchdog {
  public:
-  explicit Watchdog(std::function<void()> tooLate)
-      : thread_([this, tooLate = std::move(tooLate)] {
+  Watchdog(Deadline deadline, std::function<void()> tooLate)
+      : thread_([this, deadline, tooLate = std::move(tooLate)] {
           std::unique_lock lock(mutex_);
-          if (!ended_.wait_for(lock, std::chrono::seconds(timeLimit), [this] { return over_; })) tooLate();
+          if (!ended_.wait_until(lock, deadline, [this] { return over_; })) tooLate();
         }) {}
   ~Watchdog() {
     {
@@ -109,10 +120,11 @@ class Watchdog {
   std::thread thread_;
 };
 
-QStringList headOptions() {
-  return QStringLiteral("--port 7 --baud 19200 --modulus 95 --x 0.12 --y -0.08 --noise 2 --drift 6,-4")
-      .split(QLatin1Char(' '));
-}
+const QString anyHead = QStringLiteral("--port 7 --baud 19200 --modulus 95 ");
+/// Stands in one place, about which the beam wanders.
+const QString standingHead = anyHead + QStringLiteral("--x 0.12 --y -0.08 --noise 2 --drift 6,-4");
+/// Is carried along the guideway, in a hurry.
+const QString carriedHead = anyHead + QStringLiteral("--time-scale 0.25 ") + Guideway::headOptions();
 
 /// The walk came to a bad end: windows may still be open, so the process ends here and now.
 [[noreturn]] void endBadly(Places& places, const HeadProcess& head) {
@@ -145,23 +157,30 @@ void startProgram(Places& places, const HeadProcess& head, Journal& journal, Par
   walker.join();
 }
 
+/// A virtual head on the port, and the starts of the program that meet it.
+void walkWithHead(const QString& options, Places& places, Journal& journal, Deadline deadline,
+                  std::initializer_list<bool (Walk::*)()> starts) {
+  const HeadProcess head(QCoreApplication::applicationDirPath() + QStringLiteral("/korvin-head"),
+                         options.split(QLatin1Char(' ')), places.config());
+  journal.line("\nkorvin-head " + options.toStdString() + "\n");
+  const Watchdog watchdog(deadline, [&] {
+    journal.failed("The whole walk", "it took longer than " + std::to_string(timeLimit) + " s");
+    endBadly(places, head);
+  });
+  Walk walk({places.out(), places.file(), places.line(), places.report(),
+             Folders(chooseFolders(places.environment())).settingsFile()},
+            head, journal);
+  for (const auto start : starts) startProgram(places, head, journal, [&] { return (walk.*start)(); });
+}
+
 int walkThrough(const QString& out) {
   Places places(out);
   Journal journal(QDir(places.out()).filePath(QStringLiteral("walk.txt")).toStdString());
   journal.line("KORVIN: a walk through the windows, " +
                QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd hh:mm:ss")).toStdString());
-  const HeadProcess head(QCoreApplication::applicationDirPath() + QStringLiteral("/korvin-head"),
-                         headOptions(), places.config());
-  journal.line("korvin-head " + headOptions().join(QLatin1Char(' ')).toStdString() + "\n");
-  const Watchdog watchdog([&] {
-    journal.failed("The whole walk", "it took longer than " + std::to_string(timeLimit) + " s");
-    endBadly(places, head);
-  });
-  Walk walk({places.out(), places.file(), places.report(),
-             Folders(chooseFolders(places.environment())).settingsFile()},
-            head, journal);
-  startProgram(places, head, journal, [&] { return walk.firstStart(); });
-  startProgram(places, head, journal, [&] { return walk.secondStart(); });
+  const Deadline deadline = std::chrono::steady_clock::now() + std::chrono::seconds(timeLimit);
+  walkWithHead(standingHead, places, journal, deadline, {&Walk::firstStart, &Walk::secondStart});
+  walkWithHead(carriedHead, places, journal, deadline, {&Walk::thirdStart});
   places.bringFiles();
   journal.line("\nAll steps went well.");
   return EXIT_SUCCESS;

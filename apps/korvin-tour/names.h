@@ -7,11 +7,13 @@ namespace korvin::tour::names {
 
 inline const QString mainWindow = QStringLiteral("MDIKorvin");
 inline const QString position = QStringLiteral("FormPosition");
+inline const QString line = QStringLiteral("FormGeradheit");
 inline const QString searchDialog = QStringLiteral("FormScanComport");
 inline const QString message = QStringLiteral("MessageBox");
 inline const QString fileDialog = QStringLiteral("CMDialogDatei");
 inline const QString fileEntry = QStringLiteral("fileNameEdit");
 inline const QString fileInfo = QStringLiteral("FormDateiInfoO");
+inline const QString lineInfo = QStringLiteral("FormDateiInfoG");
 inline const QString information = QStringLiteral("FormInfo");
 inline const QString guide = QStringLiteral("CMDialogHilfe");
 inline const QString settings = QStringLiteral("FormOptionsO");

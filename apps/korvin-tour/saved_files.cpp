@@ -8,6 +8,7 @@
 #include "frame/layout.h"
 #include "gui.h"
 #include "position/record.h"
+#include "straightness/record.h"
 
 namespace korvin::tour {
 namespace {
@@ -33,12 +34,14 @@ QByteArray contents(const QString& path) {
   return file.readAll();
 }
 
-PositionsDatei readHead(const QString& path) {
+/// A file that is one record.
+template <class Record>
+Record readRecord(const QString& path) {
   const QByteArray bytes = contents(path);
-  if (bytes.size() != static_cast<qsizetype>(recordSize<PositionsDatei>())) {
+  if (bytes.size() != static_cast<qsizetype>(recordSize<Record>())) {
     fail(QStringLiteral("%1 has %2 bytes").arg(path).arg(bytes.size()));
   }
-  return fromBytes<PositionsDatei>(std::as_bytes(std::span(bytes)));
+  return fromBytes<Record>(std::as_bytes(std::span(bytes)));
 }
 
 /// The points behind the first triple, which tells their number.
@@ -90,7 +93,7 @@ void requireNear(const QString& where, qsizetype number, const QString& text, do
 }  // namespace
 
 std::string compareFiles(const QString& file, const QStringList& rows) {
-  const PositionsDatei head = readHead(file);
+  const PositionsDatei head = readRecord<PositionsDatei>(file);
   const std::vector<Point> points = readPoints(file + QLatin1Char('1'));
   const std::vector<QStringList> copy = readCopy(file + QLatin1Char('$'));
   requireCount(QStringLiteral("the head"), static_cast<std::size_t>(head.Info.AnzahlMP), rows.size());
@@ -110,6 +113,31 @@ std::string compareFiles(const QString& file, const QStringList& rows) {
       .arg(head.X.Offset, 0, 'f', 4)
       .arg(head.Y.Offset, 0, 'f', 4)
       .arg(head.Info.OffsetMP)
+      .toStdString();
+}
+
+std::string compareLineFiles(const QString& file, const QStringList& readings, const QStringList& rows) {
+  const auto line = readRecord<GeradDatei>(file);
+  const std::vector<QStringList> copy = readCopy(file + QLatin1Char('$'));
+  requireCount(QStringLiteral("the file, X"), line.X.Wert.anzahl(), rows.size());
+  requireCount(QStringLiteral("the file, Y"), line.Y.Wert.anzahl(), rows.size());
+  requireCount(QStringLiteral("the text copy"), copy.size(), rows.size());
+  for (qsizetype i = 0; i < rows.size(); ++i) {
+    const auto point = static_cast<std::size_t>(i) + 1;
+    const QStringList read = readings.value(i).split(QLatin1Char('\t'));
+    const QStringList shown = rows[i].split(QLatin1Char('\t'));
+    const QStringList& copied = copy[point - 1];
+    requireNear(QStringLiteral("table, z"), i + 1, read.value(1), line.Linie.Z.at(point), shownTolerance);
+    requireNear(QStringLiteral("table, X"), i + 1, read.value(2), line.X.Wert.at(point), shownTolerance);
+    requireNear(QStringLiteral("table, Y"), i + 1, read.value(3), line.Y.Wert.at(point), shownTolerance);
+    for (const int column : {1, 2, 3}) {
+      requireNear(QStringLiteral("text copy"), i + 1, shown.value(column), copied[column].toDouble(),
+                  shownTolerance);
+    }
+  }
+  return QStringLiteral("%1 points in file and text copy; \"%2\"")
+      .arg(rows.size())
+      .arg(QString::fromLatin1(line.Info.Bezeichnung.trimmed()))
       .toStdString();
 }
 

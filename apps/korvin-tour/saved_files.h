@@ -13,4 +13,8 @@ namespace korvin::tour {
 /// difference: a missing file, another count, a value that is off by more than its last shown digit.
 std::string compareFiles(const QString& file, const QStringList& rows);
 
+/// The same for a line: `readings` are the rows of the table ("number, z, X, Y") before any evaluation,
+/// `rows` those of the evaluation that was shown when it was saved.
+std::string compareLineFiles(const QString& file, const QStringList& readings, const QStringList& rows);
+
 }  // namespace korvin::tour

@@ -45,6 +45,25 @@ bool Walk::secondStart() {
   return take(steps);
 }
 
+bool Walk::thirdStart() {
+  static constexpr std::array<Step, 14> steps = {
+      {{"The third start finds the head at once", &Walk::foundAtOnce},
+       {"The language is English again", &Walk::english},
+       {"Tolerances of straightness are set", &Walk::lineTolerances},
+       {"The tile opens the straightness window", &Walk::openLine},
+       {"Six points of a line, by tool bar and head in turn", &Walk::measureLine},
+       {"Raw, least squares, reference points", &Walk::lineEvaluations},
+       {"The ranges of the diagrams", &Walk::lineRanges},
+       {"Mean, spread, range and tolerances", &Walk::lineStatistics},
+       {"The line is saved", &Walk::saveLine},
+       {"File and text copy hold what was measured", &Walk::lineFiles},
+       {"The straightness window closes", &Walk::closeLine},
+       {"The line opens again and shows what was measured", &Walk::reopenLine},
+       {"The line in German and Japanese", &Walk::reopenLineInOtherLanguages},
+       {"The program ends", &Walk::end}}};
+  return take(steps);
+}
+
 bool Walk::take(std::span<const Step> steps) {
   for (const Step& step : steps) {
     const auto begin = std::chrono::steady_clock::now();

@@ -16,12 +16,13 @@ namespace korvin::tour {
 struct WalkPlaces {
   QString pictures;                    ///< folder of the pictures
   QString file;                        ///< the measuring file that is written, with its full path
+  QString line;                        ///< the measuring file of the line, likewise
   QString report;                      ///< the report as PDF, likewise
   std::filesystem::path settingsFile;  ///< the settings of the walk
 };
 
-/// A user's way through the program: two starts, each a list of steps in their order. Runs in a thread of its
-/// own, beside the windows.
+/// A user's way through the program: three starts, each a list of steps in their order. Runs in a thread of
+/// its own, beside the windows.
 ///
 /// To add a step: a member function that does it and returns what it read, and a line in a list in walk.cpp.
 class Walk {
@@ -34,6 +35,8 @@ class Walk {
   bool firstStart();
   /// The second start: the measurement, its files, and reading it again. Ends the program.
   bool secondStart();
+  /// The third start, with a head that is carried along a guideway: its straightness. Ends the program.
+  bool thirdStart();
 
  private:
   struct Step {
@@ -79,13 +82,35 @@ class Walk {
   std::string preview();
   std::string report();
 
+  // ---- walk_line.cpp ----
+  std::string english();
+  std::string lineTolerances();
+  std::string openLine();
+  std::string measureLine();
+  std::string lineEvaluations();
+  std::string lineRanges();
+  std::string lineStatistics();
+  std::string saveLine();
+  std::string lineFiles();
+  std::string closeLine();
+  std::string reopenLine();
+  std::string reopenLineInOtherLanguages();
+
   /// Clicks a key or box unless it is set.
   void set(const QString& window, const QString& control);
   void openPrintDialog();
   void chooseLanguage(int index);
   void typeFileAndAccept(const QString& file);
   void openFile();
-  void waitForPosition();
+  void openLineFile();
+  /// Waits until the measuring window is online and shows the head's first answer.
+  void waitForMeasuring(const QString& window);
+  /// Measures the current point of the line, by the tool bar or by the head's key.
+  void measurePoint(int number, bool byHead);
+  /// Shows the line by one of its evaluations and returns its points.
+  QStringList evaluated(const QString& key);
+  /// Whether the file shows what was saved; `picture` is taken of the window.
+  void lookAtLineFile(const QString& picture);
   /// Clicks the key, lets `count` points come, clicks again; returns the number of points then.
   int runOnKey(const QString& key, int count, const QString& picture);
   int pointCount();
@@ -98,6 +123,8 @@ class Walk {
   Hand hand_;
   QStringList savedRows_;
   QString savedOffset_;
+  QStringList lineReadings_;  ///< points of the line, not evaluated
+  QStringList lineRows_;      ///< the same as they were shown when they were saved
 };
 
 }  // namespace korvin::tour

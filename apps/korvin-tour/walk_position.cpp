@@ -36,21 +36,21 @@ std::string Walk::lastPoint() {
       .toStdString();
 }
 
-void Walk::waitForPosition() {
-  hand_.waitFor(names::position);
-  Gui::until("the position window online", 15, [] {
-    const QWidget* window = findWindow(names::position);
+void Walk::waitForMeasuring(const QString& name) {
+  hand_.waitFor(name);
+  Gui::until("the window \"" + name.toStdString() + "\" online", 15, [name] {
+    const QWidget* window = findWindow(name);
     const auto* online =
         window == nullptr ? nullptr : window->findChild<QAction*>(QStringLiteral("M_KVNOnline"));
     return online != nullptr && online->isChecked();
   });
   // The service line shows the head's first answer.
-  hand_.waitForLabel(names::position, QStringLiteral("lblMSCommInput(0)"), QStringLiteral("-T"));
+  hand_.waitForLabel(name, QStringLiteral("lblMSCommInput(0)"), QStringLiteral("-T"));
 }
 
 std::string Walk::openPosition() {
   hand_.click(names::mainWindow, QStringLiteral("StartTile(Position)"));
-  waitForPosition();
+  waitForMeasuring(names::position);
   hand_.picture(names::position, QStringLiteral("position-empty"));
   if (pointCount() != 0) throw StepFailed("the list is not empty");
   return "online; \"" + hand_.title(names::position).toStdString() + "\"";
@@ -196,7 +196,7 @@ std::string Walk::closePosition() {
 void Walk::openFile() {
   hand_.click(names::mainWindow, QStringLiteral("DateiOeffnen"));
   typeFileAndAccept(places_.file);
-  waitForPosition();
+  waitForMeasuring(names::position);
 }
 
 std::string Walk::reopen() {

@@ -17,9 +17,10 @@ namespace {
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-constexpr double limitSeconds = 240;  ///< above the walk's own limit
+constexpr double limitSeconds = 270;  ///< above the walk's own limit
 constexpr std::uintmax_t headBytes = 789;
 constexpr std::uintmax_t tripleBytes = 24;
+constexpr std::uintmax_t lineBytes = 5643;
 
 TEST(Tour, EndsInSuccessAndLeavesFilesAndPictures) {
   const TempFolder out;
@@ -32,6 +33,8 @@ TEST(Tour, EndsInSuccessAndLeavesFilesAndPictures) {
   EXPECT_EQ(fs::file_size(out / "walk.O"), headBytes);
   EXPECT_GT(fs::file_size(out / "walk.O1"), 60 * tripleBytes);
   EXPECT_THAT(fileBytes(out / "walk.O$"), HasSubstr("X[mm]"));
+  EXPECT_EQ(fs::file_size(out / "walk.G"), lineBytes);
+  EXPECT_THAT(fileBytes(out / "walk.G$"), HasSubstr("MP\tZ[mm]\tX[mm]\tY[mm]\r\n1\t0.0\t"));
   EXPECT_THAT(fileBytes(out / "walk.pdf"), ::testing::StartsWith("%PDF"));
   for (const char* name : {"search",           "start-screen-de",
                            "start-screen-en",  "start-screen-ja",
@@ -43,7 +46,11 @@ TEST(Tour, EndsInSuccessAndLeavesFilesAndPictures) {
                            "settings-3",       "print-dialog",
                            "print-preview",    "position-reopened",
                            "position-de",      "position-ja",
-                           "file-information", "file-dialog"}) {
+                           "file-information", "file-dialog",
+                           "line-empty",       "line-measured",
+                           "line-ref",         "line-statistics",
+                           "line-reopened",    "line-de",
+                           "line-ja"}) {
     EXPECT_THAT(fileBytes(out / (std::string(name) + ".png")), ::testing::StartsWith("\x89PNG")) << name;
   }
 }
