@@ -1,5 +1,7 @@
 #include "straightness/linien_texte.h"
 
+#include <cmath>
+
 #include "frame/number_format.h"
 #include "frame/zahl_text.h"
 #include "straightness/masseinheit.h"
@@ -33,8 +35,11 @@ LinienTexte linienTexte(const LinienGeometrie& linie, std::int16_t Masssystem) {
 }
 
 std::optional<double> zEingegeben(std::string_view text, std::int16_t Masssystem) {
-  if (text.find_first_of("0123456789") == std::string_view::npos) return std::nullopt;
+  // A number further back is none that was meant, and would be read as 0.
+  const auto vorne = text.find_first_not_of(" +-.,");
+  if (vorne == std::string_view::npos || text[vorne] < '0' || text[vorne] > '9') return std::nullopt;
   const double wert = zahlAusText(text);
+  if (!std::isfinite(wert)) return std::nullopt;
   return Masssystem == MasssystemInch ? wert * MmProInch : wert;
 }
 

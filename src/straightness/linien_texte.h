@@ -21,7 +21,8 @@ struct LinienTexte {
 /// The z of a point outside the record's room is empty.
 LinienTexte linienTexte(const LinienGeometrie& linie, std::int16_t Masssystem);
 
-/// A z entered in `txtDistanz`, in mm or inch, as mm; nothing for a text without a digit.
+/// A z entered in `txtDistanz`, in mm or inch, as mm; nothing for a text that does not begin with
+/// a number, or for a number beyond all measure.
 std::optional<double> zEingegeben(std::string_view text, std::int16_t Masssystem);
 
 }  // namespace korvin

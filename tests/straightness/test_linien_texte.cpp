@@ -46,6 +46,15 @@ TEST(ZEingegeben, IsMmInEveryUnit) {
   EXPECT_EQ(zEingegeben("-3", 0), -3);
 }
 
+TEST(ZEingegeben, NumberFurtherBackOrBeyondAllMeasureIsNoPlace) {
+  EXPECT_FALSE(zEingegeben("abc12", 0));
+  EXPECT_FALSE(zEingegeben("z 500", 1));
+  EXPECT_FALSE(zEingegeben("1e999", 0));
+  EXPECT_FALSE(zEingegeben("1e999", 1));
+  EXPECT_EQ(zEingegeben("500 mm", 0), 500);
+  EXPECT_EQ(zEingegeben(",5", 0), 0.5);
+}
+
 TEST(ZEingegeben, TextWithoutADigitIsNoPlace) {
   EXPECT_FALSE(zEingegeben("", 0));
   EXPECT_FALSE(zEingegeben(" - ", 0));

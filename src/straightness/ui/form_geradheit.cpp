@@ -184,7 +184,7 @@ void FormGeradheit::ersteAktivierung() {
 }
 
 void FormGeradheit::datenZeigen() {
-  gehalten_.reset();
+  zmmod(tasten().isPressed(QStringLiteral("ZMMOD")));
   p_.erfassung.einstellungenLesen();
   zyklus().kopfZeigen();
   richtungZeigen();
@@ -348,7 +348,7 @@ void FormGeradheit::M_Gitter() {
 // ---- Points moved along the line ----
 
 void FormGeradheit::zmmod(bool an) {
-  if (!an) gehalten_.reset();
+  gehalten_.reset();
   panels_->setZFrei(an);
   zeiger(an ? AxisPointer::move : AxisPointer::choose);
 }
@@ -382,6 +382,8 @@ void FormGeradheit::zEingabe(const std::string& text) {
   const auto z = zEingegeben(text, Masssystem());
   if (z) {
     verschieben(reihe().Linie.AktMP, *z);
+    // Where the point did not move the box would go on showing what was typed.
+    panels_->zVerwerfen();
     return;
   }
   p_.zyklus.meldung = {MessartTitel(dictionary(), MessartGeradheit), dictionary().DicText(TextUngueltig)};

@@ -57,9 +57,13 @@ QWidget* LinePanels::zZeile() {
   connect(txtDistanz_, &QLineEdit::returnPressed, this, [this] {
     if (onZ) onZ(utf8Text(txtDistanz_->text()));
   });
+  auto* von = panelLabel(QStringLiteral("lblDistanzVon"), this);
+  von->setFont(themeFont(valueScale));
+  von->setText(QStringLiteral("/"));
   auto* zeile = new QHBoxLayout;
   zeile->setSpacing(scaled(6));
   zeile->addWidget(txtDistanz_, 1);
+  zeile->addWidget(von);
   zeile->addWidget(lblDistanzMax_, 1);
   auto* spalte = new QVBoxLayout(feld);
   spalte->setContentsMargins(0, 0, 0, 0);
@@ -92,7 +96,7 @@ void LinePanels::zeigeZ(const LinienTexte& texte) {
   const QString z = qText(texte.txtDistanz);
   if (z != gezeigtesZ_ || !txtDistanz_->hasFocus()) txtDistanz_->setText(z);
   gezeigtesZ_ = z;
-  lblDistanzMax_->setText(QStringLiteral("/ ") + qText(texte.lblDistanzMax));
+  lblDistanzMax_->setText(qText(texte.lblDistanzMax));
 }
 
 void LinePanels::setZFrei(bool frei) {

@@ -52,7 +52,7 @@ TEST_F(Data, NewTakesTheSettings) {
   world.profil.ProfilSchreiben("", "MessInfo_G", "Distanz", "1000");
   click("NEU");
   EXPECT_EQ(text("PanelMessPkt"), "1 / 11");
-  EXPECT_EQ(text("lblDistanzMax"), "/ 1000.0 mm");
+  EXPECT_EQ(text("lblDistanzMax"), "1000.0 mm");
   EXPECT_EQ(list().model()->rowCount(), 11);
 }
 

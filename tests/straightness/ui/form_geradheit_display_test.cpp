@@ -26,6 +26,17 @@ class Display : public test::GeradStand {
   }
 };
 
+TEST_F(Display, ToolbarHasItsKeysInOrder) {
+  show();
+  QStringList keys;
+  for (QAction* each : bar().actions()) {
+    if (!each->isSeparator()) keys += bar().widgetForAction(each)->objectName();
+  }
+  EXPECT_EQ(utf8Text(keys.join(QLatin1Char(' '))),
+            "NEU EINRICHTEN LADEN SPEICHERN DRUCKEN REF REF1 REF2 ISO ROH STATISTIK x s R t XNZOOM YNZOOM "
+            "XYAMPL ZMMOD ZL ZR XYMP1 XYMPN XYMPNN XYMPKMP AUTO_MESSRICHTUNG HILFE");
+}
+
 TEST_F(Display, EvaluationIsOneOfThreeAndItsKeyStaysPressed) {
   measureLine();
   EXPECT_TRUE(pressed("ROH"));

@@ -115,6 +115,32 @@ TEST_F(Points, EntryMovesTheCurrentPoint) {
   EXPECT_EQ(z().text().toStdString(), "987.5");
 }
 
+TEST_F(Points, EntryShowsTheZOfThePointAlsoWhereItDidNotMove) {
+  mode();
+  typeZ("50");
+  EXPECT_EQ(zOf(1), 0);
+  EXPECT_EQ(z().text().toStdString(), "0.0") << "the first point stays";
+  click("ZR");
+  typeZ("9999");
+  typeZ("5000");
+  EXPECT_EQ(z().text().toStdString(), "987.5") << "up to its neighbour already";
+}
+
+TEST_F(Points, DataThatReplaceTheOnesUnderADragLetGoOfThePoint) {
+  mode();
+  QTest::mousePress(&diagram(), Qt::LeftButton, {}, at(1000));
+  QTest::mouseMove(&diagram(), at(1200));
+  world.messages.answers.push_back(MessageAnswer::no);
+  type(Qt::Key_N, Qt::ControlModifier);
+  EXPECT_EQ(zOf(3), 1000);
+  EXPECT_EQ(diagram().cursor().shape(), Qt::SizeAllCursor);
+  EXPECT_TRUE(z().isEnabled());
+  QTest::mouseMove(&diagram(), at(1300));
+  EXPECT_EQ(zOf(3), 1000);
+  EXPECT_FALSE(info().Geaendert);
+  QTest::mouseRelease(&diagram(), Qt::LeftButton, {}, at(1300));
+}
+
 TEST_F(Points, EntryIsInInchThere) {
   world.system.Masssystem = 1;
   mode();

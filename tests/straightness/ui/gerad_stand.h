@@ -11,6 +11,7 @@
 #include <string>
 
 #include "frame/posix_file_system.h"
+#include "frame/ui/icons.h"
 #include "frame/ui/qt_text.h"
 #include "straightness/ui/form_geradheit.h"
 #include "support/recording_view.h"
@@ -64,6 +65,11 @@ class GeradStand : public ::testing::Test {
     QTest::mouseClick(key(name), Qt::LeftButton);
   }
   bool pressed(const char* name) { return bar().isPressed(QString::fromUtf8(name)); }
+  /// The key has this picture.
+  bool pictured(const char* name, const char* picture) {
+    const auto drawn = [](const QIcon& each) { return each.pixmap(24, 24, QIcon::Normal).toImage(); };
+    return drawn(key(name)->icon()) == drawn(icon(QString::fromUtf8(picture)));
+  }
   bool enabled(const char* name) { return bar().isKeyEnabled(QString::fromUtf8(name)); }
   bool keyShown(const char* name) {
     settle();  // a tool bar lays itself out anew when the queue runs
