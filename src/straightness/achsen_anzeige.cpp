@@ -131,12 +131,14 @@ std::vector<AchsenZusatzlinie> achsenZusatzlinien(const AchsenAnzeigeDaten& date
     innen(daten.mittel->wert - s, "s");
   }
   if (schalter.Spanne && daten.extreme->gueltig) {
-    innen(daten.extreme->Maximum, "R");
-    innen(daten.extreme->Minimum, "R");
+    // The range that follows the values has its largest one on the edge at times.
+    for (const double hoehe : {daten.extreme->Maximum, daten.extreme->Minimum})
+      if (std::fabs(hoehe) <= R) linien.push_back({hoehe, "R"});
   }
   if (!daten.band) return linien;
   for (const double hoehe : {daten.band->oben, daten.band->unten})
-    linien.push_back({std::clamp(hoehe, -R, R), "t", LineStyle::dotted, FarbeAchsenLinie, Seite::links});
+    linien.push_back({std::clamp(hoehe, -R, R), std::fabs(hoehe) < R ? "t" : "", LineStyle::dotted,
+                      FarbeAchsenLinie, Seite::links});
   return linien;
 }
 

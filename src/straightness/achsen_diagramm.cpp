@@ -55,7 +55,14 @@ void texteZeichnen(DrawingSurface& surface, const std::vector<AchsenText>& texte
   }
 }
 
-void markeZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen, const AchsenMarke& marke) {
+/// True if a curve is above the zero line at `z`.
+bool kurveDarueber(const std::vector<AchsenKurve>& kurven, double z) {
+  return std::ranges::any_of(
+      kurven, [z](const AchsenKurve& kurve) { return kurveBei(kurve.werte, z).value_or(0) > 0; });
+}
+
+void markeZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen, const AchsenMarke& marke,
+                   const std::vector<AchsenKurve>& kurven) {
   const double radius = letztesZ(rahmen) / 200;
   surface.circle({marke.z, 0}, radius, {marke.farbe});
   const TextLook look{marke.farbe};
@@ -63,8 +70,11 @@ void markeZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen, const Ac
   // Beside the circle on the side where there is room.
   const bool rechts = marke.z + 2 * radius + breite <= achsenFenster(rahmen).right;
   const double ort = rechts ? marke.z + 2 * radius : marke.z - 2 * radius;
+  // The curve leaves a mark upward or downward; the text stands on the other side.
+  const bool unten = kurveDarueber(kurven, rechts ? ort + breite / 2 : ort - breite / 2);
   surface.text({ort, 0}, marke.text, look,
-               {rechts ? HorizontalAnchor::left : HorizontalAnchor::right, VerticalAnchor::bottom});
+               {rechts ? HorizontalAnchor::left : HorizontalAnchor::right,
+                unten ? VerticalAnchor::top : VerticalAnchor::bottom});
 }
 
 void linienZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen,
@@ -85,7 +95,7 @@ void linienTexteZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen,
   std::vector<AchsenText> texte;
   std::vector<double> mitten;
   for (const AchsenZusatzlinie& linie : linien) {
-    if (linie.seite != seite || linie.text.empty() || !(std::fabs(linie.hoehe) < rahmen.R)) continue;
+    if (linie.seite != seite || linie.text.empty() || !(std::fabs(linie.hoehe) <= rahmen.R)) continue;
     mitten.push_back(linie.hoehe);
     // Within the plot they would stand on their own lines.
     texte.push_back(
@@ -157,7 +167,7 @@ void achsenRahmenZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen) {
 void achsenInhaltZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen, const AchsenInhalt& inhalt) {
   using Seite = AchsenZusatzlinie::Seite;
   surface.setWindow(achsenFenster(rahmen));
-  for (const AchsenMarke& marke : inhalt.marken) markeZeichnen(surface, rahmen, marke);
+  for (const AchsenMarke& marke : inhalt.marken) markeZeichnen(surface, rahmen, marke, inhalt.kurven);
   linienZeichnen(surface, rahmen, inhalt.linien);
   linienTexteZeichnen(surface, rahmen, inhalt.linien, Seite::links);
   linienTexteZeichnen(surface, rahmen, inhalt.linien, Seite::rechts);

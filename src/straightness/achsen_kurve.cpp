@@ -38,22 +38,37 @@ void stueckeln(std::vector<KurvenStueck>& stuecke, DataPoint von, DataPoint bis,
   }
 }
 
-}  // namespace
-
-std::vector<KurvenStueck> kurvenStuecke(const KurvenWerte& kurve, double R) {
-  std::vector<KurvenStueck> stuecke;
+/// Calls `tun` with each value and the next one, and whether points without a value lie between.
+template <class Tun>
+void jedesStueck(const KurvenWerte& kurve, const Tun& tun) {
   const auto n = kurve.werte.empty() ? 0 : static_cast<std::size_t>(kurve.werte[0]);
   std::size_t letzter = 0;
   for (std::size_t i = 1; i <= n; ++i) {
     if (istLeer(kurve.werte[i])) continue;
-    if (letzter != 0) {
-      const bool ueberbrueckt = i - letzter > 1;
-      stueckeln(stuecke, {kurve.z[letzter], kurve.werte[letzter]}, {kurve.z[i], kurve.werte[i]}, R,
-                ueberbrueckt);
-    }
+    if (letzter != 0)
+      tun(DataPoint{kurve.z[letzter], kurve.werte[letzter]}, DataPoint{kurve.z[i], kurve.werte[i]},
+          i - letzter > 1);
     letzter = i;
   }
+}
+
+}  // namespace
+
+std::vector<KurvenStueck> kurvenStuecke(const KurvenWerte& kurve, double R) {
+  std::vector<KurvenStueck> stuecke;
+  jedesStueck(kurve, [&](DataPoint von, DataPoint bis, bool ueberbrueckt) {
+    stueckeln(stuecke, von, bis, R, ueberbrueckt);
+  });
   return stuecke;
+}
+
+std::optional<double> kurveBei(const KurvenWerte& kurve, double z) {
+  std::optional<double> hoehe;
+  jedesStueck(kurve, [&](DataPoint von, DataPoint bis, bool) {
+    if (von.x <= z && z <= bis.x && von.x < bis.x)
+      hoehe = von.y + (z - von.x) / (bis.x - von.x) * (bis.y - von.y);
+  });
+  return hoehe;
 }
 
 }  // namespace korvin

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -27,5 +28,9 @@ struct KurvenStueck {
 /// there: what lies inside is drawn as it is, what lies beyond runs along the edge. Points without a value
 /// are bridged. Fewer than two values have no piece.
 std::vector<KurvenStueck> kurvenStuecke(const KurvenWerte& kurve, double R);
+
+/// Height of the curve at `z`, on the straight line between two values; none before the first value and
+/// behind the last.
+std::optional<double> kurveBei(const KurvenWerte& kurve, double z);
 
 }  // namespace korvin

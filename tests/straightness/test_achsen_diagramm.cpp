@@ -396,5 +396,28 @@ TEST(AchsenInhaltZeichnen, KeepsTheMarksInsideThePicture) {
   }
 }
 
+TEST(AchsenInhaltZeichnen, SetsTheWordOfAMarkOffTheCurve) {
+  const auto anchors = [](std::initializer_list<double> readings) {
+    AxisStand axis(readings);
+    axis.series.Info.Auswertung = AuswertungREF;
+    axis.draw();
+    std::vector<VerticalAnchor> found;
+    for (const DrawingOp& op : axis.content.all(Kind::text)) found.push_back(op.vertical);
+    return found;
+  };
+  using enum VerticalAnchor;
+  EXPECT_EQ(anchors({0, 0.5, -0.3, 0}), (std::vector{top, bottom}));
+  EXPECT_EQ(anchors({0, -0.5, 0.3, 0}), (std::vector{bottom, top}));
+  EXPECT_EQ(anchors({0, 0, 0, 0}), (std::vector{bottom, bottom}));
+}
+
+TEST(AchsenInhaltZeichnen, DrawsTheRangeOnTheEdgeWithItsLetter) {
+  AxisStand axis({-0.5, 0.5});
+  axis.series.Info.ZeigeSpanne = true;
+  axis.draw();
+  ASSERT_EQ(axis.data.bereich.bereich, 0.5);
+  EXPECT_EQ(axis.content.texts(), (Lines{"R", "R"}));
+}
+
 }  // namespace
 }  // namespace korvin

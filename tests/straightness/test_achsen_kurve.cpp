@@ -74,5 +74,17 @@ TEST(KurvenStuecke, SplitBridgesToo) {
             (Pieces{{{0, 0}, {10, 1}, Bridged}, {{10, 1}, {20, 1}, Bridged, Outside}}));
 }
 
+TEST(KurveBei, LiesOnTheLineBetweenTwoValues) {
+  const std::vector<double> z = {0, 0, 10, 20, 30};
+  const std::vector<double> values = {4, Leerwert, 1, Leerwert, 3};
+  const KurvenWerte curve{values, z};
+  EXPECT_EQ(kurveBei(curve, 10), 1);
+  EXPECT_EQ(kurveBei(curve, 15), 1.5);
+  EXPECT_EQ(kurveBei(curve, 30), 3);
+  EXPECT_FALSE(kurveBei(curve, 9));
+  EXPECT_FALSE(kurveBei(curve, 31));
+  EXPECT_FALSE(kurveBei({}, 0));
+}
+
 }  // namespace
 }  // namespace korvin

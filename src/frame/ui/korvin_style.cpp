@@ -184,6 +184,10 @@ int KorvinStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, con
     case PM_ExclusiveIndicatorWidth:
     case PM_ExclusiveIndicatorHeight:
       return scaled(16);
+    case PM_SliderThickness:
+    case PM_SliderControlThickness:
+    case PM_SliderLength:
+      return scaled(15);
     default:
       return QProxyStyle::pixelMetric(metric, option, widget);
   }

@@ -42,6 +42,12 @@ class OverlaySurface : public PainterSurface {
   QRect area_;
 };
 
+/// How much larger than on the screen of the design the window's texts are: those of a flat picture keep up.
+double legibleScale() {
+  constexpr int fine = 1000;
+  return std::max(1.0, static_cast<double>(scaled(fine)) / fine);
+}
+
 }  // namespace
 
 PictureWidget::PictureWidget(const PictureDesk& desk, double widthToHeight, QWidget* parent)
@@ -160,7 +166,7 @@ void PictureWidget::bringLayersUpToDate() {
     frame_.image.setDevicePixelRatio(devicePixelRatioF());
     contents_.image = QImage();
     frame_.valid = contents_.valid = false;
-    metrics_ = pictureMetrics(size, devicePixelRatioF());
+    metrics_ = pictureMetrics(size, devicePixelRatioF() * legibleScale());
   }
   if (size.isEmpty()) return;
   if (!frame_.valid) {

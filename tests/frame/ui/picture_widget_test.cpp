@@ -43,6 +43,7 @@ class Discs : public PictureWidget {
   std::vector<DataPoint> presses;
   int framesDrawn = 0;
   int contentsDrawn = 0;
+  double textHeight = 0;  ///< share of the picture's half
   std::vector<QRect> painted;
 
  protected:
@@ -52,6 +53,7 @@ class Discs : public PictureWidget {
     surface.clear(FarbeWeiss);
     surface.line({-0.9, 0}, {0.9, 0}, {FarbeGrau});
     surface.text({0, 0.5}, "label", {}, {});
+    textHeight = surface.textSize("label", {}).height;
   }
   void drawContents(DrawingSurface& surface) override {
     ++contentsDrawn;
@@ -110,6 +112,16 @@ class FullDisk : public test::UnflushedFileSystem {
 };
 
 // ---- Layers ----
+
+TEST_F(PictureWidgetTest, TextsOfASmallPictureKeepUpWithTheWindows) {
+  diagram.grab();
+  const double small = diagram.textHeight;
+  applyTheme(Appearance::light, 2, 0);
+  diagram.resize(400, 301);
+  diagram.grab();
+  applyTheme(Appearance::light, screenScale(1024 / 1280.0, 768 / 1024.0), 0);
+  EXPECT_GT(diagram.textHeight, 1.7 * small);
+}
 
 TEST_F(PictureWidgetTest, PaintingAgainDrawsNothingAnew) {
   forget();
