@@ -23,9 +23,9 @@ QMenu::indicator { width: $14; height: $14; left: $7; }
 QToolBar { background: @card; border: none; border-bottom: 1px solid @line; padding: $5 $8; spacing: $3; }
 QToolBar::separator { width: 1px; background: @line; margin: $6 $6; }
 QToolBar[dense="true"] { padding: $3 $6; spacing: $1; }
-QToolBar[dense="true"]::separator { margin: $6 $4; }
+QToolBar[dense="true"]::separator { margin: $6 $3; }
 QToolBar QToolButton { border: 1px solid transparent; border-radius: $6; padding: $5; background: transparent; }
-QToolBar[dense="true"] QToolButton { padding: $3; }
+QToolBar[dense="true"] QToolButton { padding: $1; }
 QToolBar[embedded="true"] { padding: 0; background: transparent; border: none; }
 QToolBar QToolButton:hover { background: @accentGround; }
 QToolBar QToolButton:pressed, QToolBar QToolButton:checked { background: @accentGround; border-color: @accent; }

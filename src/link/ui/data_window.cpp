@@ -1,10 +1,13 @@
 #include "link/ui/data_window.h"
 
+#include <QHBoxLayout>
 #include <QMenu>
+#include <QSplitter>
 
 #include "frame/cp1252.h"
 #include "frame/pfade.h"
 #include "frame/ui/qt_text.h"
+#include "frame/ui/theme.h"
 #include "frame/zahl_text.h"
 
 namespace korvin {
@@ -75,6 +78,21 @@ void DatenFenster::extrasUndHilfeMenu() {
 }
 
 // ---- Showing ----
+
+void DatenFenster::mitteAnordnen(QWidget& bild, int hundertstel, QWidget& panels, QWidget& liste) {
+  auto* spalte = new QSplitter(Qt::Vertical, mitte());
+  spalte->setChildrenCollapsible(false);
+  spalte->setHandleWidth(scaled(5));
+  spalte->addWidget(&panels);
+  spalte->addWidget(&liste);
+  spalte->setStretchFactor(0, 3);
+  spalte->setStretchFactor(1, 2);
+  auto* reihe = new QHBoxLayout(mitte());
+  reihe->setContentsMargins(0, 0, 0, 0);
+  reihe->setSpacing(scaled(10));
+  reihe->addWidget(&bild, hundertstel);
+  reihe->addWidget(spalte, 100 - hundertstel);
+}
 
 void DatenFenster::titelZeigen() {
   setWindowTitle(qText(titel()));

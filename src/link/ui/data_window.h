@@ -61,6 +61,9 @@ class DatenFenster : public Messfenster {
   void dateiMenu();
   /// The three ways to take a reading, captions for single, running and fast ones.
   QMenu* messMenu(std::int16_t einzel, std::int16_t laufend, std::int16_t schnell);
+  /// Lays out the middle: `bild` to the left with so many hundredths of the width, beside it `panels` over
+  /// `liste`.
+  void mitteAnordnen(QWidget& bild, int hundertstel, QWidget& panels, QWidget& liste);
   /// The entry of `menu` that shows or hides `liste`.
   void punktListenEintrag(QMenu* menu, QWidget& liste);
   /// The menus of the settings and of the help.

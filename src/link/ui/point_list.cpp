@@ -141,11 +141,9 @@ int PointList::columnWidthOf(int column) const {
   QFont bold = font();
   bold.setBold(true);
   const PointColumn& shape = model_.columns()[static_cast<std::size_t>(column)];
-  const QFontMetrics metrics(bold);
-  const QString heading = model_.headerData(column, Qt::Horizontal).toString();
-  return std::max(metrics.horizontalAdvance(QLatin1String(shape.widest)),
-                  metrics.horizontalAdvance(heading)) +
-         2 * scaled(cellEdge);
+  const int figures =
+      QFontMetrics(bold).horizontalAdvance(QLatin1String(shape.widest)) + 2 * scaled(cellEdge);
+  return std::max(figures, horizontalHeader()->sectionSizeHint(column));
 }
 
 void PointList::fitColumns() {

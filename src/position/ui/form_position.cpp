@@ -1,10 +1,8 @@
 #include "position/ui/form_position.h"
 
 #include <QAction>
-#include <QHBoxLayout>
 #include <QMenu>
 #include <QMenuBar>
-#include <QSplitter>
 #include <array>
 #include <utility>
 
@@ -99,18 +97,7 @@ void FormPosition::layoutAnlegen() {
   wertfelder = panels_->werte() + bild_->werte();
   tasten().setPressed(QStringLiteral("STATISTIK"), true);
 
-  auto* spalte = new QSplitter(Qt::Vertical, mitte());
-  spalte->setChildrenCollapsible(false);
-  spalte->setHandleWidth(scaled(5));
-  spalte->addWidget(panels_);
-  spalte->addWidget(liste_);
-  spalte->setStretchFactor(0, 3);
-  spalte->setStretchFactor(1, 2);
-  auto* reihe = new QHBoxLayout(mitte());
-  reihe->setContentsMargins(0, 0, 0, 0);
-  reihe->setSpacing(scaled(10));
-  reihe->addWidget(bild_, 58);
-  reihe->addWidget(spalte, 42);
+  mitteAnordnen(*bild_, 58, *panels_, *liste_);
   liste_->setFocus();
 }
 

@@ -10,7 +10,7 @@
 namespace korvin {
 namespace {
 
-constexpr double rowScale = 1.1;
+constexpr double rowScale = 1.0;
 constexpr std::int16_t TextSoll = 5000;
 constexpr std::int16_t TextIst = 5001;
 constexpr std::int16_t TextGesamt = 7541;
@@ -35,12 +35,12 @@ AxisPanel::AxisPanel(const QString& axis, QWidget* parent)
 
   auto* grid = new QGridLayout(tolerances_);
   grid->setContentsMargins(0, 0, 0, 0);
-  grid->setHorizontalSpacing(scaled(6));
+  grid->setHorizontalSpacing(scaled(5));
   grid->setVerticalSpacing(scaled(2));
   whole_ = toleranceRow(*grid, 0, 5, 7);
   section_ = toleranceRow(*grid, 1, 6, 8);
-  grid->setColumnStretch(2, 2);
-  grid->setColumnStretch(4, 3);
+  grid->setColumnStretch(2, 5);
+  grid->setColumnStretch(4, 6);
 
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);

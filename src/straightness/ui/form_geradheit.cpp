@@ -1,9 +1,7 @@
 #include "straightness/ui/form_geradheit.h"
 
 #include <QAction>
-#include <QHBoxLayout>
 #include <QMenu>
-#include <QSplitter>
 #include <QVBoxLayout>
 #include <array>
 
@@ -115,24 +113,15 @@ void FormGeradheit::layoutAnlegen() {
   panels_ = new LinePanels(&kopf(), mitte());
   panels_->onZ = [this](const std::string& text) { zEingabe(text); };
 
-  auto* bilder = new QVBoxLayout;
+  auto* links = new QWidget(mitte());
+  auto* bilder = new QVBoxLayout(links);
+  bilder->setContentsMargins(0, 0, 0, 0);
   bilder->setSpacing(scaled(8));
   bilder->addWidget(bildAnlegen(QStringLiteral("X"), x_), 1);
   bilder->addWidget(bildAnlegen(QStringLiteral("Y"), y_), 1);
   wertfelder = panels_->werte() + QVector<ValuePanel*>{x_.bild->wert(), y_.bild->wert()};
 
-  auto* spalte = new QSplitter(Qt::Vertical, mitte());
-  spalte->setChildrenCollapsible(false);
-  spalte->setHandleWidth(scaled(5));
-  spalte->addWidget(panels_);
-  spalte->addWidget(liste_);
-  spalte->setStretchFactor(0, 3);
-  spalte->setStretchFactor(1, 2);
-  auto* reihe = new QHBoxLayout(mitte());
-  reihe->setContentsMargins(0, 0, 0, 0);
-  reihe->setSpacing(scaled(10));
-  reihe->addLayout(bilder, 62);
-  reihe->addWidget(spalte, 38);
+  mitteAnordnen(*links, 62, *panels_, *liste_);
   liste_->setFocus();
 }
 
