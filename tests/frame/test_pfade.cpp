@@ -7,6 +7,7 @@
 #include <string>
 
 #include "frame/datei_dialog.h"
+#include "support/temp_folder.h"
 #include "support/test_ports.h"
 
 namespace korvin {
@@ -16,16 +17,11 @@ namespace fs = std::filesystem;
 
 class PfadeTest : public testing::Test {
  protected:
-  PfadeTest() {
-    std::string pattern = (fs::temp_directory_path() / "korvin-pfade-XXXXXX").string();
-    folder = mkdtemp(pattern.data());
-  }
-  ~PfadeTest() override { fs::remove_all(folder); }
-
   std::string inFolder(const std::string& name) const { return folder + "/" + name; }
   void write(const std::string& name) const { std::ofstream(inFolder(name)) << "x"; }
 
-  std::string folder;
+  const test::TempFolder own;
+  const std::string folder = own.path().string();
 };
 
 TEST_F(PfadeTest, ABlankMeasuringFolderIsMadeBesideTheProgram) {

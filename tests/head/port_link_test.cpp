@@ -8,6 +8,8 @@
 #include <fstream>
 #include <string>
 
+#include "support/temp_folder.h"
+
 namespace fs = std::filesystem;
 
 namespace korvin::head {
@@ -17,13 +19,6 @@ using ::testing::HasSubstr;
 
 class PortLinkTest : public ::testing::Test {
  protected:
-  PortLinkTest() {
-    std::string name = (fs::temp_directory_path() / "korvin-ports-XXXXXX").string();
-    folder = ::mkdtemp(name.data());
-    path = (folder / "ports" / "com7").string();
-  }
-  ~PortLinkTest() override { fs::remove_all(folder); }
-
   std::string complaint() const {
     try {
       PortLink link(path);
@@ -37,8 +32,9 @@ class PortLinkTest : public ::testing::Test {
     fs::create_symlink(target, path);
   }
 
-  fs::path folder;
-  std::string path;
+  const test::TempFolder own;
+  const fs::path folder = own.path();
+  std::string path = (folder / "ports" / "com7").string();
 };
 
 TEST_F(PortLinkTest, FolderFollowsTheConfigurationFolder) {

@@ -20,6 +20,7 @@
 #include "korvin-head/file_descriptor.h"
 #include "korvin-head/head_protocol.h"
 #include "korvin-head/head_server.h"
+#include "support/temp_folder.h"
 #include "system/child_program.h"
 
 namespace fs = std::filesystem;
@@ -84,17 +85,10 @@ constexpr double kSilence = 0.15;  // long enough to know that nothing comes at 
 
 class HeadProgram : public ::testing::Test {
  protected:
-  HeadProgram() {
-    std::string name = (fs::temp_directory_path() / "korvin-head-XXXXXX").string();
-    folder = ::mkdtemp(name.data());
-    link = (folder / "korvin/ports/com7").string();
-    environment = {"XDG_CONFIG_HOME=" + folder.string()};
-  }
-  ~HeadProgram() override { fs::remove_all(folder); }
-
-  fs::path folder;
-  std::string link;
-  std::vector<std::string> environment;
+  const test::TempFolder own;
+  const fs::path folder = own.path();
+  const std::string link = (folder / "korvin/ports/com7").string();
+  const std::vector<std::string> environment = {"XDG_CONFIG_HOME=" + folder.string()};
 };
 
 const std::string kStatus = answerFrame("1-K-T", 223);
