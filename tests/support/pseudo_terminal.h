@@ -24,6 +24,7 @@ class PseudoTerminal {
 
  private:
   int master_ = -1;
+  int number_ = -1;
   std::string path_;
 };
 
