@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "link/adaptiv_aufgabe.h"
 #include "link/kamera_antwort.h"
 
 namespace korvin {
@@ -51,6 +52,7 @@ struct ZyklusBeschreibung {
 inline constexpr int InfoToggleMs = 2000;     ///< interval of `tmrInfoToggle`
 inline constexpr int LaufKeyPressedMs = 500;  ///< `tmrKeyPressed` from the first run on
 inline constexpr int LaufJMs = 15;            ///< `tmrJ` of a run at the common pace
+inline constexpr int AdaptMjMs = 10;          ///< `tmrMj` between two samples of an adaptive point
 
 namespace zyklus {
 inline constexpr std::array<const char*, 4> MesstastenGerad{"XYMP1", "XYMPN", "XYMPNN", "XYMPKMP"};
@@ -159,13 +161,17 @@ class Messaufgabe {
   /// request in its own way, by a step to another line for one: then nothing is measured.
   virtual bool vorMessung(char /*zustand*/) { return true; }
 
+  /// The way of adaptive points if single measurements are to be adaptive, else none. Asked at each request
+  /// for a single measurement; it has to live as long as the task.
+  virtual AdaptivAufgabe* adaptiv() { return nullptr; }
+
   /// A run begins; `sekunden` is the time of day.
   virtual void laufBeginnt(float sekunden) = 0;
   /// Decides what the present tick of the run does.
   virtual LaufSchritt laufSchritt() = 0;
   /// True when the run has taken all its points.
   virtual bool laufFertig() const = 0;
-  /// The run is over, for whatever reason.
+  /// The run, or the adaptive point, is over, for whatever reason.
   virtual void laufBeendet() = 0;
 
   /// Takes a reading whose intensity is good. Called for single and running measurements.

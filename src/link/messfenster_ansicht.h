@@ -1,8 +1,10 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "frame/farbe.h"
+#include "link/adaptiv_aufgabe.h"
 
 namespace korvin {
 
@@ -41,6 +43,10 @@ class MessfensterAnsicht {
   /// `lblKamera`, but for a simulated head.
   virtual void zeigeKamera(const std::string& text) = 0;
   virtual void zeigeVerbindung(const Verbindungsmarken& marken) = 0;
+
+  /// `AdaptProgress`; nothing hides it. Called at the start of an adaptive point, after each of its answers,
+  /// and at its end: the moments for whatever else a window shows of the point. Empty for windows without.
+  virtual void zeigeAdaptProgress(const std::optional<Fortschritt>& /*fortschritt*/) {}
 
   /// Shows a toolbar key as pressed or released.
   virtual void zeigeTaste(const std::string& taste, bool gedrueckt) = 0;

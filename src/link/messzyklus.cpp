@@ -34,15 +34,18 @@ Messzyklus::Messzyklus(const ZyklusUmgebung& umgebung, MSComm& control, Messaufg
       ansicht_(ansicht),
       tmrPolling_(umgebung.timers.create()),
       tmrJ_(umgebung.timers.create()),
+      tmrMj_(umgebung.timers.create()),
       tmrKeyPressed_(umgebung.timers.create()),
       tmrInfoToggle_(umgebung.timers.create()) {
   const ZyklusBeschreibung& b = aufgabe_.beschreibung();
   tmrPolling_->setInterval(b.pollingMs);
   tmrJ_->setInterval(b.jMs);
+  tmrMj_->setInterval(AdaptMjMs);
   tmrKeyPressed_->setInterval(b.keyPressedMs);
   tmrInfoToggle_->setInterval(InfoToggleMs);
   tmrPolling_->onTick = [this] { tick(&Messzyklus::tickPolling); };
   tmrJ_->onTick = [this] { tick(&Messzyklus::tickJ); };
+  tmrMj_->onTick = [this] { tick(&Messzyklus::tickMj); };
   tmrKeyPressed_->onTick = [this] { tickKeyPressed(); };
   tmrInfoToggle_->onTick = [this] { tickInfoToggle(); };
   control_.OnComm = [this] { onComm(); };
@@ -112,12 +115,13 @@ void Messzyklus::schliessenAnfordern() {
   ansicht_.zeigeSanduhr(true);
   tmrKeyPressed_->setEnabled(false);
   // Without a running timer no tick would come to unload the window.
-  if (!imTick_ && !tmrJ_->enabled()) tmrPolling_->setEnabled(true);
+  if (!imTick_ && !tmrJ_->enabled() && !tmrMj_->enabled()) tmrPolling_->setEnabled(true);
 }
 
 void Messzyklus::beenden() {
   tmrPolling_->setEnabled(false);
   tmrJ_->setEnabled(false);
+  tmrMj_->setEnabled(false);
   tmrKeyPressed_->setEnabled(false);
   tmrInfoToggle_->setEnabled(false);
   u_.korCom.ComSchliessen(control_);
@@ -190,6 +194,7 @@ bool Messzyklus::tickBeginnt() {
   ansicht_.zeigeLed(led_);
   tmrPolling_->setEnabled(false);
   tmrJ_->setEnabled(false);
+  tmrMj_->setEnabled(false);
   if (!schliessen_) return false;
   u_.messages.beep();
   entladen_ = true;
@@ -267,6 +272,8 @@ void Messzyklus::zustandAuswerten() {
     tmrPolling_->setEnabled(true);
   } else if (tastenzustand_ == 'J' || tastenzustand_ == 'Q') {
     laufStarten(tastenzustand_ == 'Q');
+  } else if (AdaptivAufgabe* punkt = aufgabe_.adaptiv(); punkt != nullptr) {
+    adaptStarten(*punkt);
   } else {
     einzelmessung();
   }
@@ -274,13 +281,17 @@ void Messzyklus::zustandAuswerten() {
 
 // ---- Single measurements ----
 
-void Messzyklus::einzelmessung() {
+void Messzyklus::einzelZeigen() {
   const ZyklusBeschreibung& b = aufgabe_.beschreibung();
-  einzel_ = true;
   ansicht_.zeigeSanduhr(true);
   aufgabe_.setFilter(u_.system.FilterVorgabe);
   ansicht_.zeigeTaste(b.tasteEinzel, true);
   tastenFrei(b.messtasten, false);
+}
+
+void Messzyklus::einzelmessung() {
+  einzel_ = true;
+  einzelZeigen();
   if (!frage('M', u_.korCom.MesszeitLimit())) {
     verbindungVerloren();
     return;
@@ -321,18 +332,23 @@ void Messzyklus::laufStarten(bool schnell) {
   const ZyklusBeschreibung& b = aufgabe_.beschreibung();
   ansicht_.zeigeTaste(schnell ? b.tasteSchnell : b.tasteLaufend, true);
   tastenFrei(schnell ? b.gesperrtSchnell : b.gesperrtLaufend, false);
-  tastenzustand_ = 'K';
-  tmrKeyPressed_->setInterval(LaufKeyPressedMs);
   tmrJ_->setInterval(schnell ? b.schnellMs : b.laufendMs);
-  if (b.laufFaerbt) ansicht_.setWertFarbe(FarbeWeiss);
   // The limits stay those of the level that was asked for before: the fast levels have none of their own.
   if (schnell) aufgabe_.setFilter(schnelleStufe(u_.system.FilterVorgabe));
   aufgabe_.laufBeginnt(u_.clock.secondsOfDay());
+  laufZeigen();
+  tmrJ_->setEnabled(true);
+}
+
+void Messzyklus::laufZeigen() {
+  const ZyklusBeschreibung& b = aufgabe_.beschreibung();
+  tastenzustand_ = 'K';
+  tmrKeyPressed_->setInterval(LaufKeyPressedMs);
+  if (b.laufFaerbt) ansicht_.setWertFarbe(FarbeWeiss);
   ansicht_.setTasteFrei(b.tasteEinrichten, false);
   if (b.kopfImLauf && marken_.online) kopfZeigen();
   laeuft_ = true;
   tmrPolling_->setEnabled(false);
-  tmrJ_->setEnabled(true);
 }
 
 void Messzyklus::tickJ() {
@@ -381,8 +397,10 @@ bool Messzyklus::laufGehtWeiter(const LaufSchritt& schritt) {
 void Messzyklus::laufBeenden() {
   if (!laeuft_) return;
   laeuft_ = false;
+  const bool adaptiv = std::exchange(adaptiv_, nullptr) != nullptr;
   const ZyklusBeschreibung& b = aufgabe_.beschreibung();
   tmrJ_->setEnabled(false);
+  tmrMj_->setEnabled(false);
   ansicht_.zeigeTaste(b.tasteLaufend, false);
   ansicht_.zeigeTaste(b.tasteSchnell, false);
   aufgabe_.setFilter(u_.system.FilterVorgabe);
@@ -392,6 +410,7 @@ void Messzyklus::laufBeenden() {
   ansicht_.setTasteFrei(b.tasteEinrichten, true);
   tastenFrei(b.messtasten, true);
   if (b.laufFaerbt) laufFaerben();
+  if (adaptiv) adaptVerbergen();
   tmrPolling_->setEnabled(true);
 }
 
@@ -399,6 +418,89 @@ void Messzyklus::laufFaerben() {
   ansicht_.setWertFarbe(FarbeGelb);
   ansicht_.zeigeTaste(aufgabe_.beschreibung().tasteEinzel, false);
   if (!schliessen_) ansicht_.zeigeSanduhr(false);
+}
+
+// ---- Adaptive points ----
+
+void Messzyklus::adaptStarten(AdaptivAufgabe& punkt) {
+  adaptiv_ = &punkt;
+  einzelZeigen();
+  // Its key stays free: a second press cancels the point.
+  ansicht_.setTasteFrei(aufgabe_.beschreibung().tasteEinzel, true);
+  laufZeigen();
+  punkt.adaptBeginnt(u_.clock.secondsOfDay());
+  adaptZeigen();
+  tmrMj_->setEnabled(true);
+}
+
+void Messzyklus::tickMj() {
+  if (tickBeginnt()) return;
+  if (!frage('J', u_.korCom.JustageZeitLimit())) {
+    verbindungVerloren();
+    return;
+  }
+  if (abgeschlossen()) return;
+  // A command may have ended the point while the answer was awaited.
+  if (adaptiv_ == nullptr) {
+    tmrPolling_->setEnabled(true);
+    return;
+  }
+  const AdaptSchritt schritt = adaptSchritt();
+  statusIcons();
+  adaptZeigen();
+  if (tastenzustand_ == 'M' || schritt != AdaptSchritt::weiter) {
+    adaptBeenden();
+  } else {
+    tmrPolling_->setEnabled(false);
+    tmrMj_->setEnabled(true);
+  }
+}
+
+AdaptSchritt Messzyklus::adaptSchritt() {
+  const float jetzt = u_.clock.secondsOfDay();
+  adaptiv_->adaptAntwort(jetzt);
+  if (u_.antwort.Antwortart != 'j') {
+    icon(IconFrage);
+    return AdaptSchritt::abgebrochen;
+  }
+  if (!AntwortPruefen()) {
+    adaptiv_->adaptAbgelehnt();
+    return AdaptSchritt::weiter;
+  }
+  const AdaptSchritt schritt = adaptiv_->adaptProbe(u_.antwort, jetzt);
+  if (schritt == AdaptSchritt::angenommen) adaptAnnehmen();
+  if (schritt == AdaptSchritt::verfehlt) adaptVerfehlt();
+  return schritt;
+}
+
+void Messzyklus::adaptAnnehmen() {
+  const Farbe imBereich = tastenzustand_ == 'K' ? FarbeWeiss : FarbeGelb;
+  ansicht_.setWertFarbe(adaptiv_->adaptImBereich(u_.korCom.SensorHalbbereich()) ? imBereich : FarbeRot);
+  tastenFrei(aufgabe_.beschreibung().messtasten, true);
+  ansicht_.neuZeichnen(true);
+  if (adaptiv_->adaptUebergeben()) ansicht_.neuZeichnen(false);
+}
+
+void Messzyklus::adaptVerfehlt() {
+  kopfZeigen();
+  ansicht_.neuZeichnen(false);
+}
+
+void Messzyklus::adaptZeigen() {
+  ansicht_.zeigeAdaptProgress(adaptiv_->adaptFortschritt());
+  ansicht_.zeigeServiceZeile(1, adaptiv_->adaptZeile());
+}
+
+void Messzyklus::adaptBeenden() {
+  AdaptivAufgabe& punkt = *adaptiv_;
+  laufBeenden();
+  punkt.adaptNachTick();
+}
+
+void Messzyklus::adaptVerbergen() {
+  ansicht_.zeigeAdaptProgress(std::nullopt);
+  // RTS has been low since the trigger line asked for the point.
+  if (control_.DSRHolding()) control_.setRTSEnable(true);
 }
 
 // ---- Readings ----
@@ -433,6 +535,7 @@ bool Messzyklus::uebernehmen() {
 // ---- A lost link ----
 
 void Messzyklus::verbindungVerloren() {
+  AdaptivAufgabe* const punkt = adaptiv_;
   laufBeenden();
   tmrPolling_->setEnabled(false);
   icon(IconFunk);
@@ -441,6 +544,7 @@ void Messzyklus::verbindungVerloren() {
   wartendesTun();
   try {
     wiederverbinden();
+    if (punkt != nullptr && !schliessen_) punkt->adaptNachTick();
   } catch (const std::exception&) {
     // A second failure on the way changes nothing: the next poll tries again.
     icon(IconFunk);

@@ -34,10 +34,10 @@ struct ZyklusUmgebung {
 };
 
 /// The measuring cycle of every window: polling, keys, info icons, quality check, reconnect, trigger line,
-/// starts and ends of runs, closing in two steps. Driven by timer ticks; exactly one of `tmrPolling` and
-/// `tmrJ` runs at a time, and no tick acts during a transaction. Toolbar clicks that arrive while a
-/// transaction waits only set `Tastenzustand`; the next tick acts. Any run-time failure inside a tick ends in
-/// the link recovery.
+/// starts and ends of runs and of adaptive points, closing in two steps. Driven by timer ticks; exactly one
+/// of `tmrPolling`, `tmrJ` and `tmrMj` runs at a time, and no tick acts during a transaction. Toolbar clicks
+/// that arrive while a transaction waits only set `Tastenzustand`; the next tick acts. Any run-time failure
+/// inside a tick ends in the link recovery.
 class Messzyklus {
  public:
   Messzyklus(const ZyklusUmgebung& umgebung, MSComm& control, Messaufgabe& aufgabe,
@@ -57,14 +57,17 @@ class Messzyklus {
   /// `tmrKeyPressed`.
   void anfordern(char zustand);
   char Tastenzustand() const { return tastenzustand_; }
+  /// A running measurement or an adaptive point is under way.
   bool laeuft() const { return laeuft_; }
+  /// An adaptive point is under way. "M" then cancels it at its next answer, and no other request does.
+  bool adaptiv() const { return adaptiv_ != nullptr; }
   bool imTick() const { return imTick_; }
 
   /// Shows the mounting, and the filter that the user has set where no simulated head is named in its place.
   /// The limits of the telegrams become those of that filter, in any case.
   void kopfZeigen();
 
-  /// Ends a running measurement with all that belongs to it; nothing without one.
+  /// Ends a running measurement or an adaptive point with all that belongs to it; nothing without one.
   void laufBeenden();
 
   /// Runs `befehl` at once, or, while a telegram is under way, as soon as its tick has ended: a reading must
@@ -81,6 +84,7 @@ class Messzyklus {
   /// Timers, for the sliders of the service panel.
   Timer& tmrPolling() { return *tmrPolling_; }
   Timer& tmrJ() { return *tmrJ_; }
+  Timer& tmrMj() { return *tmrMj_; }
   Timer& tmrKeyPressed() { return *tmrKeyPressed_; }
   Timer& tmrInfoToggle() { return *tmrInfoToggle_; }
 
@@ -88,18 +92,28 @@ class Messzyklus {
   void tick(void (Messzyklus::*arbeit)());
   void tickPolling();
   void tickJ();
+  void tickMj();
   void tickKeyPressed();
   void tickInfoToggle();
   void onComm();
 
-  /// The common start of both ticks; true if the window was unloaded.
+  /// The common start of the ticks with a telegram; true if the window was unloaded.
   bool tickBeginnt();
   void tasteAuswerten();
   void zustandAuswerten();
+  void einzelZeigen();
   void einzelmessung();
   void einzelAuswerten();
   void einzelBeenden();
   void laufStarten(bool schnell);
+  void laufZeigen();
+  void adaptStarten(AdaptivAufgabe& punkt);
+  AdaptSchritt adaptSchritt();
+  void adaptAnnehmen();
+  void adaptVerfehlt();
+  void adaptZeigen();
+  void adaptBeenden();
+  void adaptVerbergen();
   void antwortImLauf();
   void laufFaerben();
   bool laufGehtWeiter(const LaufSchritt& schritt);
@@ -124,6 +138,7 @@ class Messzyklus {
   MessfensterAnsicht& ansicht_;
   std::unique_ptr<Timer> tmrPolling_;
   std::unique_ptr<Timer> tmrJ_;
+  std::unique_ptr<Timer> tmrMj_;
   std::unique_ptr<Timer> tmrKeyPressed_;
   std::unique_ptr<Timer> tmrInfoToggle_;
   Verbindungsmarken marken_;
@@ -131,7 +146,8 @@ class Messzyklus {
   bool schliessen_ = false;
   bool entladen_ = false;
   bool laeuft_ = false;
-  bool einzel_ = false;  ///< pointer and keys are those of a single measurement
+  AdaptivAufgabe* adaptiv_ = nullptr;  ///< of the adaptive point under way
+  bool einzel_ = false;                ///< pointer and keys are those of a single measurement
   bool imTick_ = false;
   bool infoFrisch_ = false;  ///< the tag of `imgInfo`
   Farbe led_ = FarbeGrau;

@@ -62,7 +62,7 @@ class GeradErfassung : public LinienErfassung {
 
   LinienGeometrie& linie() override { return u_.formgera.reihe().Linie; }
   std::int16_t Montage() const override { return info().Montage; }
-  bool AutoAdapt() const override { return static_cast<bool>(u_.formgera.reihe().Adapt.AutoAdapt); }
+  AdaptVorgaben& adaptVorgaben() override { return u_.formgera.reihe().Adapt; }
   const ZyklusBeschreibung& beschreibung() const override { return ZyklusGerad; }
   LinkAngaben linkAngaben() const override;
   char filter() const override { return info().Filter.full().front(); }

@@ -12,11 +12,19 @@ namespace vorgaben = einstellung::FormGeradheit;
 }  // namespace
 
 void LinienErfassung::PunktSpeichern(const KameraAntwort& antwort) {
+  const auto [x, y] = gelesen(antwort);
+  speichern(x, y);
+}
+
+std::pair<double, double> LinienErfassung::gelesen(const KameraAntwort& antwort) const {
+  return Spiegeln(Montage(), mmAusRoh(antwort.RohX), mmAusRoh(antwort.RohY));
+}
+
+void LinienErfassung::speichern(double X, double Y) {
   LinienGeometrie& line = linie();
   if (line.AnzMPs < 1) return;
   PunktWechseln(line, 0);
-  const auto [x, y] = Spiegeln(Montage(), mmAusRoh(antwort.RohX), mmAusRoh(antwort.RohY));
-  punktEintragen(x, y);
+  punktEintragen(X, Y);
 }
 
 bool LinienErfassung::nachPunkt() {

@@ -285,15 +285,6 @@ TEST_F(GeradErfassungTest, BackwardsTheSeriesIsWalkedToItsFirstPoint) {
   EXPECT_NEAR(X(1), 0.4, tiny) << "the first point was measured twice";
 }
 
-TEST_F(GeradErfassungTest, AutoAdaptLeavesTheSingleMeasurementAsItIs) {
-  series().Adapt.AutoAdapt = true;
-  online();
-  single();
-  EXPECT_EQ(count('M'), 1U);
-  EXPECT_NEAR(X(1), 0.05, tiny);
-  EXPECT_EQ(line().AktMP, 2);
-}
-
 TEST_F(GeradErfassungTest, SingleMeasurementLocksTheMeasuringKeysAndFreesThem) {
   online();
   bool asked = false;

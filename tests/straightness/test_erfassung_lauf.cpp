@@ -354,7 +354,7 @@ class OwnLine : public LinienErfassung {
   }
   LinienGeometrie& linie() override { return geometry; }
   std::int16_t Montage() const override { return 1; }
-  bool AutoAdapt() const override { return false; }
+  AdaptVorgaben& adaptVorgaben() override { return adapt; }
   const ZyklusBeschreibung& beschreibung() const override { return description; }
   LinkAngaben linkAngaben() const override { return {1, Settings115200, "0"}; }
   char filter() const override { return level; }
@@ -371,6 +371,7 @@ class OwnLine : public LinienErfassung {
   }
 
   LinienGeometrie geometry;
+  AdaptVorgaben adapt;
   ZyklusBeschreibung description = ZyklusGerad;
   char level = '2';
   std::array<double, 4> X{};

@@ -1,0 +1,19 @@
+#pragma once
+
+namespace korvin {
+
+/// What multi-point measuring hears of the adaptive points that it asked for. Called only while
+/// `MehrPunktAktiv` holds, and all from inside the tick, so a transaction cannot start on the way.
+class MehrPunktAbnehmer {
+ public:
+  virtual ~MehrPunktAbnehmer() = default;
+
+  /// An adaptive point was accepted: its means stand at the current point, which has not moved on. Colours
+  /// and keys are shown; the point still counts as running.
+  virtual void punktAngenommen() = 0;
+  /// The window is at rest again after an adaptive point, whether it was accepted or not, and polls. With all
+  /// positions taken the evaluation follows from here.
+  virtual void punktBeendet() = 0;
+};
+
+}  // namespace korvin
