@@ -71,6 +71,28 @@ void ImageSurface::setWindow(const DataWindow& window) {
   marker_ = {};
 }
 
+void ImageSurface::polyline(std::span<const DataPoint> points, const Stroke& stroke) {
+  constexpr double farthest = 1e6;
+  if (points.size() < 2) return;
+  const double width = widthOnPicture(stroke);
+  const Mapping map = mapping();
+  places_.clear();
+  bool fit = stroke.style == LineStyle::solid && width <= LineBrush::widest;
+  for (const DataPoint point : points) {
+    places_.push_back(map.place(point));
+    // Also false where a number is none.
+    fit = fit && std::fabs(places_.back().x()) < farthest && std::fabs(places_.back().y()) < farthest;
+  }
+  if (!fit) {
+    PainterSurface::polyline(points, stroke);
+    return;
+  }
+  stamps_.brush().draw(pixels_, places_, width, qColour(stroke.colour).rgb());
+  Extent extent;
+  for (const QPointF place : places_) extent.add(static_cast<int>(place.x()), static_cast<int>(place.y()));
+  changed_ |= extent.grown(static_cast<int>(LineBrush::widest));
+}
+
 const MarkStamp* ImageSurface::stampOf(const Marker& marker) {
   if (marker == marker_) return stamp_;
   marker_ = marker;

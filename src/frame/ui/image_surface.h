@@ -4,23 +4,27 @@
 #include <QRect>
 #include <deque>
 #include <span>
+#include <vector>
 
+#include "frame/ui/line_brush.h"
 #include "frame/ui/mark_stamp.h"
 #include "frame/ui/painter_surface.h"
 
 namespace korvin {
 
-/// The stamps in use, kept from drawing to drawing.
+/// What pixels are drawn with, kept from drawing to drawing: the stamps in use, and the brush.
 class StampBox {
  public:
   const MarkStamp& get(const MarkStamp::Shape& shape);
+  LineBrush& brush() { return brush_; }
 
  private:
+  LineBrush brush_;
   std::deque<MarkStamp> stamps_;
 };
 
-/// Draws a diagram into a picture of pixels: lines crisp, small circles and discs by ready stamps at whole
-/// pixels, so that ten thousands of points take a moment.
+/// Draws a diagram into a picture of pixels: lines crisp, thin curves with a brush of its own, small circles
+/// and discs by ready stamps at whole pixels, so that ten thousands of points take a moment.
 ///
 /// The picture is opaque with 32 bits a pixel (`QImage::Format_RGB32`); `StampBox` and picture have to
 /// outlive the surface, and nothing else may paint on the picture meanwhile.
@@ -29,6 +33,7 @@ class ImageSurface : public PainterSurface {
   ImageSurface(QImage& picture, const PictureMetrics& metrics, StampBox& stamps);
 
   void setWindow(const DataWindow& window) override;
+  void polyline(std::span<const DataPoint> points, const Stroke& stroke) override;
   void circle(DataPoint centre, double radius, const Stroke& stroke) override;
   void circles(std::span<const DataPoint> centres, double radius, const Stroke& stroke) override;
   void disc(DataPoint centre, double radius, Farbe colour) override;
@@ -62,6 +67,7 @@ class ImageSurface : public PainterSurface {
   QRect changed_;
   Marker marker_;
   const MarkStamp* stamp_ = nullptr;
+  std::vector<QPointF> places_;
 };
 
 }  // namespace korvin

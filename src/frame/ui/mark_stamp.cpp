@@ -14,7 +14,6 @@ namespace korvin {
 namespace {
 
 constexpr int samples = 16;  ///< of a pixel's side
-constexpr std::uint32_t full = 256;
 
 /// How much of the pixel (dx, dy) from the middle lies on the mark, 0 to 256.
 std::uint32_t coverage(const MarkStamp::Shape& shape, int dx, int dy) {
@@ -29,18 +28,7 @@ std::uint32_t coverage(const MarkStamp::Shape& shape, int dx, int dy) {
       if (square <= outer && square > inner) ++hits;
     }
   }
-  return static_cast<std::uint32_t>(hits) * full / (samples * samples);
-}
-
-/// `colour` over `ground` with `alpha` of 256, two channels at a time.
-QRgb mixed(QRgb ground, QRgb colour, std::uint32_t alpha) {
-  constexpr std::uint32_t twoChannels = 0x00ff00ff;
-  const std::uint32_t rest = full - alpha;
-  const std::uint32_t redBlue =
-      (((colour & twoChannels) * alpha + (ground & twoChannels) * rest) >> 8) & twoChannels;
-  const std::uint32_t alphaGreen =
-      (((colour >> 8) & twoChannels) * alpha + ((ground >> 8) & twoChannels) * rest) & ~twoChannels;
-  return redBlue | alphaGreen;
+  return static_cast<std::uint32_t>(hits) * fullAlpha / (samples * samples);
 }
 
 /// Puts two pixels of a stamp on those at `ground`: eight channels at once where the processor has SSE2, as
@@ -93,7 +81,7 @@ void MarkStamp::fillPairs() {
       Pair& made = pairs_.emplace_back();
       for (std::size_t i = 0; i < made.keep.size(); ++i) {
         const std::uint32_t alpha = alphaAt(2 * pair + static_cast<int>(i / 4) - reach_, dy);
-        made.keep[i] = static_cast<std::uint16_t>(full - alpha);
+        made.keep[i] = static_cast<std::uint16_t>(fullAlpha - alpha);
         made.add[i] = static_cast<std::uint16_t>(channels[i % 4] * alpha);
       }
     }

@@ -1,27 +1,13 @@
 #pragma once
 
-#include <QImage>
 #include <QRgb>
 #include <array>
-#include <cstddef>
 #include <cstdint>
 #include <vector>
 
+#include "frame/ui/pixels.h"
+
 namespace korvin {
-
-/// The pixels of an opaque picture with 32 bits each, for as long as no one else touches it.
-struct Pixels {
-  explicit Pixels(QImage& picture)
-      : bytes(picture.bits()),
-        bytesPerLine(static_cast<std::ptrdiff_t>(picture.bytesPerLine())),
-        width(picture.width()),
-        height(picture.height()) {}
-
-  std::uint8_t* bytes;
-  std::ptrdiff_t bytesPerLine;
-  int width;
-  int height;
-};
 
 /// A small round mark, ready to be pressed into a picture of pixels: a disc, or the ring of a circle. Its
 /// smooth edge is computed once; each impression is then a handful of pixels, and all of them look the same.
