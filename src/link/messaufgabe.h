@@ -47,6 +47,7 @@ struct ZyklusBeschreibung {
   bool abgelehntesZeichnen;  ///< a refused reading redraws and marks the data as changed, too
   bool rtsNachJederAntwort;  ///< RTS rises after an answer of any kind, not after "m" alone
   bool einzelEndetNachFehler;  ///< a lost link, too, brings pointer and keys of a single measurement to rest
+  bool einrichtenHaeltAn;      ///< the polling stands still while the settings dialog is open
 };
 
 inline constexpr int InfoToggleMs = 2000;     ///< interval of `tmrInfoToggle`
@@ -88,6 +89,7 @@ inline constexpr ZyklusBeschreibung ZyklusPosition{
     .abgelehntesZeichnen = true,
     .rtsNachJederAntwort = false,
     .einzelEndetNachFehler = false,
+    .einrichtenHaeltAn = false,
 };
 
 /// The straightness window's. A reading belongs to the current point: a single one is shown for a while
@@ -118,6 +120,7 @@ inline constexpr ZyklusBeschreibung ZyklusGerad{
     .abgelehntesZeichnen = false,
     .rtsNachJederAntwort = true,
     .einzelEndetNachFehler = true,
+    .einrichtenHaeltAn = true,
 };
 
 /// How a window's record says that the head is reached.

@@ -229,7 +229,7 @@ bool Messzyklus::abgeschlossen() {
 
 void Messzyklus::tasteAuswerten() {
   const ZyklusBeschreibung& b = aufgabe_.beschreibung();
-  const bool gesperrt = aufgabe_.tastenGesperrt();
+  const bool gesperrt = tastenGesperrt_ || aufgabe_.tastenGesperrt();
   switch (u_.antwort.Taste) {
     case 'L':
       if (!gesperrt) ansicht_.drueckeTaste(b.tasteZurueck);

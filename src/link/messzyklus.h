@@ -67,6 +67,9 @@ class Messzyklus {
   /// The limits of the telegrams become those of that filter, in any case.
   void kopfZeigen();
 
+  /// While a dialog changes what a measurement goes by, the head's keys are to begin none.
+  void setTastenGesperrt(bool gesperrt) { tastenGesperrt_ = gesperrt; }
+
   /// Ends a running measurement or an adaptive point with all that belongs to it; nothing without one.
   void laufBeenden();
 
@@ -149,6 +152,7 @@ class Messzyklus {
   AdaptivAufgabe* adaptiv_ = nullptr;  ///< of the adaptive point under way
   bool einzel_ = false;                ///< pointer and keys are those of a single measurement
   bool imTick_ = false;
+  bool tastenGesperrt_ = false;
   bool infoFrisch_ = false;  ///< the tag of `imgInfo`
   Farbe led_ = FarbeGrau;
   bool gestoert_ = false;  ///< the link is lost, from its recovery to the next answer

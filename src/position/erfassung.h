@@ -49,9 +49,6 @@ class PositionsErfassung : public Messaufgabe {
   /// Deletes all points and the offset.
   void M_MessLöschen();
 
-  /// While a dialog changes what a run goes by, the head's keys are to begin none.
-  void setTastenGesperrt(bool gesperrt) { tastenGesperrt_ = gesperrt; }
-
   // ---- Messaufgabe ----
 
   const ZyklusBeschreibung& beschreibung() const override { return ZyklusPosition; }
@@ -63,7 +60,6 @@ class PositionsErfassung : public Messaufgabe {
   void laufBeginnt(float sekunden) override;
   LaufSchritt laufSchritt() override;
   bool laufFertig() const override;
-  bool tastenGesperrt() const override { return tastenGesperrt_; }
   void laufBeendet() override;
   void wertUebernehmen(const KameraAntwort& antwort) override;
 
@@ -81,22 +77,7 @@ class PositionsErfassung : public Messaufgabe {
 
   ErfassungUmgebung u_;
   bool laeuftIntervall_ = false;
-  bool tastenGesperrt_ = false;
   double naechsteMessung_ = 0;
-};
-
-/// Keeps the head's keys locked while it lives.
-class TastenSperre {
- public:
-  explicit TastenSperre(PositionsErfassung& erfassung) : erfassung_(erfassung) {
-    erfassung_.setTastenGesperrt(true);
-  }
-  ~TastenSperre() { erfassung_.setTastenGesperrt(false); }
-  TastenSperre(const TastenSperre&) = delete;
-  TastenSperre& operator=(const TastenSperre&) = delete;
-
- private:
-  PositionsErfassung& erfassung_;
 };
 
 }  // namespace korvin

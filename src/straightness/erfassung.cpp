@@ -11,6 +11,7 @@
 #include "straightness/auswertung.h"
 #include "straightness/neue_reihe.h"
 #include "straightness/punkt_lage.h"
+#include "straightness/toleranz.h"
 
 namespace korvin {
 namespace {
@@ -29,7 +30,12 @@ void GeradErfassung::ersteAktivierung() {
   } else {
     u_.formgera.bildUebernehmen();
   }
+  filterVorgeben();
   einstellungenLesen();
+}
+
+void GeradErfassung::filterVorgeben() {
+  u_.system.FilterVorgabe = filter();
 }
 
 void GeradErfassung::einstellungenLesen() {
@@ -42,12 +48,20 @@ void GeradErfassung::einstellungenLesen() {
   const auto kamera =
       zuCp1252(u_.dictionary.DicText(TextMesskopf) + ": " + MontageText(u_.dictionary, g.Montage));
   if (kamera) g.KameraText = *kamera;
-  u_.system.FilterVorgabe = filter();
   richtungLesen();
 }
 
 void GeradErfassung::punktVersetzen(std::int16_t punkt, double z) {
   punktVerschieben(linie(), punkt, z);
+  GeradReihe& reihe = u_.formgera.reihe();
+  reihe.X.BereichAlt = 0;
+  reihe.Y.BereichAlt = 0;
+  reihe.Info.Geaendert = true;
+}
+
+void GeradErfassung::punkteGleichVerteilen() {
+  if (ZAequidistant(linie())) return;
+  punkteVerteilen(linie());
   GeradReihe& reihe = u_.formgera.reihe();
   reihe.X.BereichAlt = 0;
   reihe.Y.BereichAlt = 0;

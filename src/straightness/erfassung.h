@@ -32,14 +32,19 @@ class GeradErfassung : public LinienErfassung {
   /// The first activation of the window: takes a loaded file, or starts a new series; then reads the
   /// settings.
   void ersteAktivierung();
-  /// Reads into the series what the settings say of the link, names its mounting in `KameraText`, keeps its
-  /// filter as `FilterVorgabe`, and sets the direction forward. To be called whenever the series or the
-  /// settings have become others. Readings, `Montage` and `Filter` of the series stay as they are.
+  /// Reads into the series what the settings say of the link, names its mounting in `KameraText`, and sets
+  /// the direction forward. To be called whenever the series or the settings have become others. Readings,
+  /// `Montage` and `Filter` of the series stay as they are.
   void einstellungenLesen();
+  /// Readings are taken with the filter of the series: to be called when another series has come. The
+  /// settings dialog may set another one meanwhile.
+  void filterVorgeben();
 
   /// Moves a point of the line to `z` mm, or as near to it as its neighbours allow. The series counts as
   /// changed, and both diagrams are to be drawn anew, frame and all.
   void punktVersetzen(std::int16_t punkt, double z);
+  /// Brings all points back to even distances; readings stay. The series counts as changed if one had moved.
+  void punkteGleichVerteilen();
 
   // ---- Keys of the evaluation ----
 

@@ -3,6 +3,8 @@
 #include <stdexcept>
 #include <string>
 
+#include "straightness/punkt_lage.h"
+
 namespace korvin {
 
 void ReiheLeeren(GeradReihe& reihe) {
@@ -15,7 +17,7 @@ void ReiheLeeren(GeradReihe& reihe) {
   reihe.X.Wert.clearFrom(1);
   reihe.Y.Wert.clearFrom(1);
   linie.ZSchritt = linie.Distanz / (linie.AnzMPs - 1);
-  for (std::size_t i = 1; i <= anzahl; ++i) linie.Z.at(i) = static_cast<double>(i - 1) * linie.ZSchritt;
+  punkteVerteilen(linie);
   linie.AktMP = 1;
   GeradInfo& info = reihe.Info;
   info.Ref1 = 1;

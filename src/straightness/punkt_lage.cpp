@@ -60,6 +60,11 @@ std::optional<std::int16_t> naechsterPunkt(std::span<const double> Z, std::int16
   return naechster;
 }
 
+void punkteVerteilen(LinienGeometrie& linie) {
+  for (std::int16_t i = 1; i <= linie.AnzMPs; ++i)
+    linie.Z.at(static_cast<std::size_t>(i)) = (i - 1) * linie.ZSchritt;
+}
+
 void punktVerschieben(LinienGeometrie& linie, std::int16_t punkt, double z) {
   if (punkt < 1 || punkt > linie.AnzMPs || !std::isfinite(z)) return;
   linie.Z.at(static_cast<std::size_t>(punkt)) = punkt == 1 ? 0 : zErlaubt(linie, punkt, z);

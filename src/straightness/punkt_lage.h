@@ -25,6 +25,10 @@ std::optional<std::int16_t> ziehbarerPunktBei(const LinienGeometrie& linie, doub
 std::optional<std::int16_t> naechsterPunkt(std::span<const double> Z, std::int16_t AnzMPs, double z,
                                            double weite);
 
+/// Sets all points at even distances: point i at (i − 1) · `ZSchritt`. Throws `std::out_of_range` if `AnzMPs`
+/// exceeds the line.
+void punkteVerteilen(LinienGeometrie& linie);
+
 /// Moves a point to `z`, or as near to it as its neighbours and the ends of the line allow: points keep their
 /// order and a gap of 1/200 of the line. The first point stays at 0. A point outside 1 to `AnzMPs`, and a `z`
 /// that is no finite number, change nothing.

@@ -73,6 +73,31 @@ TEST_F(GeradErfassungTest, ReadingTheSettingsTouchesNoReadingAndSetsTheDirection
   EXPECT_TRUE(task.RichtungVor());
 }
 
+TEST_F(GeradErfassungTest, ReadingTheSettingsLeavesTheFilterThatTheUserHasSet) {
+  world.system.FilterVorgabe = '4';
+  task.einstellungenLesen();
+  EXPECT_EQ(world.system.FilterVorgabe, '4');
+  info().Filter = "1";
+  task.filterVorgeben();
+  EXPECT_EQ(world.system.FilterVorgabe, '1');
+}
+
+TEST_F(GeradErfassungTest, EvenDistancesCountAsAChangeOnlyWhereAPointHadMoved) {
+  task.ersteAktivierung();
+  series().X.BereichAlt = series().Y.BereichAlt = 2;
+  task.punkteGleichVerteilen();
+  EXPECT_FALSE(info().Geaendert);
+  EXPECT_EQ(series().X.BereichAlt, 2);
+  series().X.Wert.at(2) = 0.5;
+  line().Z.at(2) = 600;
+  task.punkteGleichVerteilen();
+  EXPECT_EQ(line().Z.at(2), 500);
+  EXPECT_EQ(X(2), 0.5);
+  EXPECT_TRUE(info().Geaendert);
+  EXPECT_EQ(series().X.BereichAlt, 0);
+  EXPECT_EQ(series().Y.BereichAlt, 0);
+}
+
 TEST_F(GeradErfassungTest, WordsOfAnotherScriptLeaveTheRecordsText) {
   info().KameraText = "Sensor head: 0";
   world.dictionary.texts[3003] = "\u4F20\u611F\u5934";

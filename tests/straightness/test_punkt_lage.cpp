@@ -94,6 +94,17 @@ TEST(PunktVerschieben, LooksAtTheUpperLimitFirst) {
   EXPECT_EQ(made.Z.at(3), 198);
 }
 
+TEST(PunkteVerteilen, BringsEveryPointOfTheLineToItsEvenDistance) {
+  LinienGeometrie made = line();
+  const LinienGeometrie even = line();
+  punktVerschieben(made, 3, 430);
+  punktVerschieben(made, 6, 900);
+  made.Z.at(7) = 5;
+  punkteVerteilen(made);
+  for (std::size_t i = 1; i <= 6; ++i) EXPECT_EQ(made.Z.at(i), even.Z.at(i)) << i;
+  EXPECT_EQ(made.Z.at(7), 5) << "behind the line";
+}
+
 TEST(PunktVerschieben, ChangesNothingElse) {
   LinienGeometrie made = line();
   punktVerschieben(made, 0, 10);

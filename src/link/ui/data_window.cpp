@@ -3,12 +3,14 @@
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QSplitter>
+#include <utility>
 
 #include "frame/cp1252.h"
 #include "frame/pfade.h"
 #include "frame/ui/qt_text.h"
 #include "frame/ui/theme.h"
 #include "frame/zahl_text.h"
+#include "link/tasten_sperre.h"
 
 namespace korvin {
 namespace {
@@ -123,6 +125,7 @@ void DatenFenster::taste(const QString& key, bool /*gedrueckt*/) {
   if (key == QLatin1String("NEU")) ersetzen(&DateiBefehle::M_Neu);
   if (key == QLatin1String("LADEN")) ersetzen(&DateiBefehle::M_Oeffnen);
   if (key == QLatin1String("SPEICHERN")) sichern(&DateiBefehle::M_Speichern);
+  if (key == QLatin1String("EINRICHTEN")) M_EinrichtInfo();
   if (key == QLatin1String("DRUCKEN")) M_ProtokollDrucken();
   if (key == QLatin1String("HILFE") && dienste_.hilfe) dienste_.hilfe();
 }
@@ -137,6 +140,19 @@ void DatenFenster::sichern(bool (DateiBefehle::*befehl)()) {
   ausserhalbDesTakts([this, befehl] {
     (befehle().*befehl)();
     titelZeigen();
+  });
+}
+
+void DatenFenster::M_EinrichtInfo() {
+  ausserhalbDesTakts([this] {
+    // The key of the head may have begun a run since the click.
+    if (!dienste_.einrichten || zyklus().laeuft()) return;
+    {
+      const TastenSperre sperre(zyklus(), beschreibung().einrichtenHaeltAn);
+      dienste_.einrichten(*this,
+                          [this](std::function<void()> befehl) { ausserhalbDesTakts(std::move(befehl)); });
+    }
+    einstellungenZeigen();
   });
 }
 

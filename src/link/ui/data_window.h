@@ -28,7 +28,7 @@ struct FensterDienste {
 };
 
 /// A measuring window with the data of one measurement: New, Open, Save and Save as with their keys and menu
-/// entries, printing, help, the window's title, and the pictures of its diagrams.
+/// entries, settings, printing, help, the window's title, and the pictures of its diagrams.
 ///
 /// How to add a kind: derive from it, give its data with the commands on them and what shows them, and let
 /// `taste` pass on the keys that are not its own.
@@ -46,6 +46,8 @@ class DatenFenster : public Messfenster {
   virtual DateiBefehle& befehle() = 0;
   /// Shows all of the record anew: after the first activation, New and Open.
   virtual void datenZeigen() = 0;
+  /// Shows what the settings dialog may have changed, however it was closed.
+  virtual void einstellungenZeigen() { datenZeigen(); }
   /// Title of the window, UTF-8.
   virtual std::string titel() = 0;
   /// Name of a picture of data without a file.
@@ -81,6 +83,7 @@ class DatenFenster : public Messfenster {
  private:
   void ersetzen(bool (DateiBefehle::*befehl)(const std::function<void()>&));
   void sichern(bool (DateiBefehle::*befehl)());
+  void M_EinrichtInfo();
   void M_ProtokollDrucken();
 
   FensterDienste dienste_;

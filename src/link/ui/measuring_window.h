@@ -74,6 +74,7 @@ class Messfenster : public QMainWindow, public MessfensterAnsicht {
   // ---- What the shell offers ----
 
   Messzyklus& zyklus() { return zyklus_; }
+  const ZyklusBeschreibung& beschreibung() const { return aufgabe_.beschreibung(); }
   KeyToolBar& tasten() { return *toolBar_; }
   HeadPanel& kopf() { return *kopf_; }
   ServicePanel& service() { return *service_; }

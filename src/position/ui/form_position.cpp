@@ -191,7 +191,6 @@ void FormPosition::wirdEntladen() {
 
 void FormPosition::taste(const QString& key, bool gedrueckt) {
   if (key == QLatin1String("LOESCHEN")) M_MessLöschen();
-  if (key == QLatin1String("EINRICHTEN")) M_EinrichtInfo();
   if (key == QLatin1String("STATISTIK")) bild_->setStatistik(gedrueckt);
   if (key == QLatin1String("x")) schalter(Info().ZeigeMittel, gedrueckt);
   if (key == QLatin1String("s")) schalter(Info().ZeigeStreuung, gedrueckt);
@@ -209,19 +208,6 @@ void FormPosition::M_MessLöschen() {
   ausserhalbDesTakts([this] {
     p_.erfassung.M_MessLöschen();
     service().leeren();
-    datenZeigen();
-  });
-}
-
-void FormPosition::M_EinrichtInfo() {
-  ausserhalbDesTakts([this] {
-    // The key of the head may have begun a run since the click.
-    if (!dienste().einrichten || zyklus().laeuft()) return;
-    {
-      const TastenSperre sperre(p_.erfassung);
-      dienste().einrichten(*this,
-                           [this](std::function<void()> befehl) { ausserhalbDesTakts(std::move(befehl)); });
-    }
     datenZeigen();
   });
 }

@@ -54,7 +54,6 @@ class FormPosition : public DatenFenster {
   void numZoomZeigen();
 
   void M_MessLöschen();
-  void M_EinrichtInfo();
   void M_xyNumZoom();
   void M_Gitter();
   void schalter(Flagge& flagge, bool an);

@@ -24,7 +24,7 @@ constexpr std::array<const char*, 4> StatistikTasten = {"x", "s", "R", "t"};
 
 /// The toolbar, in its order; a line without a key is a gap between groups.
 constexpr std::array<TastenZeile, 33> Tasten = {{{"NEU", "ICON1", Kind::push, "Ctrl+N", 2000},
-                                                 {"EINRICHTEN", "ICON46", Kind::push, "", 2037, true},
+                                                 {"EINRICHTEN", "ICON46", Kind::push, "", 2037},
                                                  {"LADEN", "ICON3", Kind::push, "Ctrl+O", 2002},
                                                  {"SPEICHERN", "ICON2", Kind::push, "Ctrl+S", 2001},
                                                  {"DRUCKEN", "ICON4", Kind::push, "Ctrl+P", 2003, true},
@@ -173,6 +173,11 @@ void FormGeradheit::ersteAktivierung() {
 }
 
 void FormGeradheit::datenZeigen() {
+  p_.erfassung.filterVorgeben();
+  einstellungenZeigen();
+}
+
+void FormGeradheit::einstellungenZeigen() {
   zmmod(tasten().isPressed(QStringLiteral("ZMMOD")));
   p_.erfassung.einstellungenLesen();
   zyklus().kopfZeigen();

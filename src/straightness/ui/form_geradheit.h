@@ -42,6 +42,7 @@ class FormGeradheit : public DatenFenster {
   Messdaten& daten() override { return daten_; }
   DateiBefehle& befehle() override { return befehle_; }
   void datenZeigen() override;
+  void einstellungenZeigen() override;
   std::string titel() override;
   std::string bildName() const override { return "XYZ"; }
 

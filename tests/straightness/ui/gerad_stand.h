@@ -34,7 +34,12 @@ class GeradStand : public ::testing::Test {
             world.profil, world.meldung, world.korCom, world.answer,   world.system};
   }
   FensterDienste services() {
-    return {fileDialog, fileSystem, [this] { ++helpOpened; }};
+    return {fileDialog, fileSystem, [this] { ++helpOpened; }, settingsHook()};
+  }
+  EinrichtenDialog settingsHook() {
+    return [this](QWidget& window, const auto& outsideOfTicks) {
+      if (settings) settings(window, outsideOfTicks);
+    };
   }
 
   /// Builds the window and shows it with 1024 by 768 pixels.
@@ -128,6 +133,7 @@ class GeradStand : public ::testing::Test {
   std::unique_ptr<GeradErfassung> erfassung_;
   std::unique_ptr<FormGeradheit> form;
   int helpOpened = 0;
+  EinrichtenDialog settings;  ///< stands in for the settings dialog
 };
 
 }  // namespace korvin::test
