@@ -168,6 +168,9 @@ class Messaufgabe {
   /// for a single measurement; it has to live as long as the task.
   virtual AdaptivAufgabe* adaptiv() { return nullptr; }
 
+  /// A request was dropped without a measurement, since the head told something unexpected.
+  virtual void anforderungVerfallen() {}
+
   /// A run begins; `sekunden` is the time of day.
   virtual void laufBeginnt(float sekunden) = 0;
   /// Decides what the present tick of the run does.

@@ -110,6 +110,17 @@ void Messzyklus::nachTick(std::function<void()> befehl) {
   }
 }
 
+void Messzyklus::vormerken(char zustand) {
+  tastenzustand_ = zustand;
+  tmrKeyPressed_->setEnabled(false);
+  if (!imTick_ && !laeuft_) tmrPolling_->setEnabled(true);
+}
+
+void Messzyklus::ausserDerReihe(std::function<void()> arbeit) {
+  ausserDerReihe_ = std::move(arbeit);
+  if (!imTick_) tick(&Messzyklus::tickAusserDerReihe);
+}
+
 void Messzyklus::schliessenAnfordern() {
   schliessen_ = true;
   ansicht_.zeigeSanduhr(true);
@@ -176,6 +187,7 @@ void Messzyklus::tick(void (Messzyklus::*arbeit)()) {
   if (entladen_) return;
   imTick_ = false;
   wartendesTun();
+  if (ausserDerReihe_) tick(&Messzyklus::tickAusserDerReihe);
 }
 
 void Messzyklus::wartendesTun() {
@@ -248,7 +260,7 @@ void Messzyklus::tasteAuswerten() {
       break;
     default:
       icon(IconFrage);
-      tastenzustand_ = 'K';
+      if (std::exchange(tastenzustand_, 'K') != 'K') aufgabe_.anforderungVerfallen();
   }
 }
 
@@ -269,6 +281,7 @@ void Messzyklus::zustandAuswerten() {
   } else if (!aufgabe_.vorMessung(tastenzustand_)) {
     tastenzustand_ = 'K';
     ansicht_.neuZeichnen(false);
+    if (!ausserDerReihe_) triggerBedient();
     tmrPolling_->setEnabled(true);
   } else if (tastenzustand_ == 'J' || tastenzustand_ == 'Q') {
     laufStarten(tastenzustand_ == 'Q');
@@ -310,10 +323,19 @@ void Messzyklus::einzelAuswerten() {
   if (!messwert) {
     icon(IconFrage);
   } else if (uebernehmen()) {
-    pause(u_.clock, u_.pump, b.pauseNachPunkt);
-    if (!schliessen_ && aufgabe_.nachPunkt()) ansicht_.neuZeichnen(false);
+    zumNaechsten();
   }
-  if ((messwert || b.rtsNachJederAntwort) && control_.DSRHolding()) control_.setRTSEnable(true);
+  if (messwert || b.rtsNachJederAntwort) triggerBedient();
+}
+
+void Messzyklus::zumNaechsten() {
+  pause(u_.clock, u_.pump, aufgabe_.beschreibung().pauseNachPunkt);
+  if (!schliessen_ && aufgabe_.nachPunkt()) ansicht_.neuZeichnen(false);
+}
+
+void Messzyklus::triggerBedient() {
+  // RTS has been low since the trigger line asked for a measurement.
+  if (control_.DSRHolding()) control_.setRTSEnable(true);
 }
 
 void Messzyklus::einzelBeenden() {
@@ -324,6 +346,23 @@ void Messzyklus::einzelBeenden() {
   tastenFrei(b.messtasten, true);
   ansicht_.setWertFarbe(FarbeGelb);
   tastenzustand_ = 'K';
+}
+
+// ---- Readings for controls of the window ----
+
+void Messzyklus::tickAusserDerReihe() {
+  const auto arbeit = std::exchange(ausserDerReihe_, nullptr);
+  if (tickBeginnt()) return;
+  arbeit();
+  tmrPolling_->setEnabled(true);
+}
+
+bool Messzyklus::messwertHolen() {
+  const bool geantwortet = frage('M', u_.korCom.MesszeitLimit());
+  triggerBedient();
+  if (geantwortet && u_.antwort.Antwortart == 'm') return true;
+  icon(geantwortet ? IconFrage : IconFunk);
+  return false;
 }
 
 // ---- Running measurements ----
@@ -499,8 +538,7 @@ void Messzyklus::adaptBeenden() {
 
 void Messzyklus::adaptVerbergen() {
   ansicht_.zeigeAdaptProgress(std::nullopt);
-  // RTS has been low since the trigger line asked for the point.
-  if (control_.DSRHolding()) control_.setRTSEnable(true);
+  triggerBedient();
 }
 
 // ---- Readings ----

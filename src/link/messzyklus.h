@@ -78,6 +78,26 @@ class Messzyklus {
   /// link is lost none waits.
   void nachTick(std::function<void()> befehl);
 
+  // ---- Readings that a control of the window asks for, by no key ----
+
+  /// Sets the state as `anfordern` does, but the request does not lapse: it stands until a tick serves it.
+  /// 'K' takes a request back.
+  void vormerken(char zustand);
+  /// Runs `arbeit` as a tick of its own, at once, or as soon as the tick under way has ended, mending of the
+  /// link included: the timers stop, polling goes on after it, and what it throws ends in the link recovery.
+  /// One waits at most, the last one. It never runs in a closing window, which may be closing when it
+  /// returns.
+  void ausserDerReihe(std::function<void()> arbeit);
+  /// In such a tick: asks for a single measurement. True if a reading has come, which nothing has looked at
+  /// yet. A lost link is shown and left to the next poll.
+  bool messwertHolen();
+  /// In a tick: checks what the answer record holds, and gives it to the task; false if it was refused.
+  bool uebernehmen();
+  /// In a tick, after it: a stored single measurement is shown for a while; then the task steps on.
+  void zumNaechsten();
+  /// The quality check of an answer, with all that is shown of it; false if its light refuses it.
+  bool AntwortPruefen();
+
   /// The first closing request, after the user's consent: the next tick unloads the window.
   void schliessenAnfordern();
   bool Schliessen() const { return schliessen_; }
@@ -98,6 +118,7 @@ class Messzyklus {
   void tickMj();
   void tickKeyPressed();
   void tickInfoToggle();
+  void tickAusserDerReihe();
   void onComm();
 
   /// The common start of the ticks with a telegram; true if the window was unloaded.
@@ -120,15 +141,12 @@ class Messzyklus {
   void antwortImLauf();
   void laufFaerben();
   bool laufGehtWeiter(const LaufSchritt& schritt);
+  void triggerBedient();
   void wartendesTun();
   bool abgeschlossen();
   void tastenFrei(TastenListe tasten, bool frei);
   void statusIcons();
   bool frage(char befehl, double limit);
-  /// The quality check of an answer, with all that is shown of it; false if its light refuses it.
-  bool AntwortPruefen();
-  /// The checked reading to the task; false if it was refused.
-  bool uebernehmen();
   void icon(const char* schluessel);
   void verbindungVerloren();
   void wiederverbinden();
@@ -157,6 +175,7 @@ class Messzyklus {
   Farbe led_ = FarbeGrau;
   bool gestoert_ = false;  ///< the link is lost, from its recovery to the next answer
   std::function<void()> wartenderBefehl_;
+  std::function<void()> ausserDerReihe_;
   /// Gone with the cycle: what outlives it can tell.
   std::shared_ptr<const Messzyklus*> lebt_ = std::make_shared<const Messzyklus*>(this);
 };

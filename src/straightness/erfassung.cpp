@@ -68,6 +68,12 @@ void GeradErfassung::punkteGleichVerteilen() {
   reihe.Info.Geaendert = true;
 }
 
+std::pair<double, double> GeradErfassung::PunktWert() {
+  const auto punkt = static_cast<std::size_t>(linie().AktMP);
+  const GeradReihe& reihe = u_.formgera.reihe();
+  return {reihe.X.Wert.at(punkt), reihe.Y.Wert.at(punkt)};
+}
+
 LinkAngaben GeradErfassung::linkAngaben() const {
   const GeradInfo& g = info();
   return {g.PortNr, std::string(g.BaudRate.trimmed()), std::string(g.KameraID.trimmed())};

@@ -66,6 +66,7 @@ class GeradErfassung : public LinienErfassung {
   // ---- LinienErfassung ----
 
   LinienGeometrie& linie() override { return u_.formgera.reihe().Linie; }
+  std::pair<double, double> PunktWert() override;
   std::int16_t Montage() const override { return info().Montage; }
   AdaptVorgaben& adaptVorgaben() override { return u_.formgera.reihe().Adapt; }
   const ZyklusBeschreibung& beschreibung() const override { return ZyklusGerad; }

@@ -13,7 +13,7 @@ AdaptSchritt LinienErfassung::adaptProbe(const KameraAntwort& antwort, float sek
     case AdaptErgebnis::weiter:
       return AdaptSchritt::weiter;
     case AdaptErgebnis::angenommen:
-      speichern(messung_.MittelX(), messung_.MittelY());
+      PunktSetzen(messung_.MittelX(), messung_.MittelY());
       return AdaptSchritt::angenommen;
     case AdaptErgebnis::verfehlt:
       break;

@@ -13,18 +13,28 @@ namespace vorgaben = einstellung::FormGeradheit;
 
 void LinienErfassung::PunktSpeichern(const KameraAntwort& antwort) {
   const auto [x, y] = gelesen(antwort);
-  speichern(x, y);
+  PunktSetzen(x, y);
 }
 
 std::pair<double, double> LinienErfassung::gelesen(const KameraAntwort& antwort) const {
   return Spiegeln(Montage(), mmAusRoh(antwort.RohX), mmAusRoh(antwort.RohY));
 }
 
-void LinienErfassung::speichern(double X, double Y) {
+void LinienErfassung::PunktSetzen(double X, double Y) {
   LinienGeometrie& line = linie();
   if (line.AnzMPs < 1) return;
   PunktWechseln(line, 0);
   punktEintragen(X, Y);
+}
+
+bool LinienErfassung::vorMessung(char zustand) {
+  if (!mehrPunktAktiv_ || abnehmer_ == nullptr) return true;
+  const bool einzeln = zustand == 'M' || zustand == 'S';
+  return einzeln && abnehmer_->positionVerlangt();
+}
+
+void LinienErfassung::anforderungVerfallen() {
+  if (mehrPunktAktiv_ && abnehmer_ != nullptr) abnehmer_->anforderungVerfallen();
 }
 
 bool LinienErfassung::nachPunkt() {

@@ -41,6 +41,12 @@ class LinienErfassung : public Messaufgabe, public AdaptivAufgabe {
   /// the line is brought onto it first. Nothing on a line without points.
   void PunktSpeichern(const KameraAntwort& antwort);
 
+  /// The reading of the current point, in mm, X and Y.
+  virtual std::pair<double, double> PunktWert() = 0;
+  /// Stores a pair in mm at the current point, brought onto the line; nothing on a line without points.
+  /// `Leerwert` empties the point.
+  void PunktSetzen(double X, double Y);
+
   /// Where a single measurement steps: to the next point, or to the one before.
   bool RichtungVor() const { return richtungVor_; }
   /// The key "AUTO_MESSRICHTUNG": turns the direction round.
@@ -80,6 +86,10 @@ class LinienErfassung : public Messaufgabe, public AdaptivAufgabe {
   // ---- Messaufgabe ----
 
   bool tastenGesperrt() const override { return mehrPunktAktiv_; }
+  /// While multi-point measuring is running, it decides about single measurements, and there are no others. A
+  /// kind that serves requests in its own way asks here first.
+  bool vorMessung(char zustand) override;
+  void anforderungVerfallen() override;
   void laufBeginnt(float /*sekunden*/) override {}
   LaufSchritt laufSchritt() override { return {}; }
   bool laufFertig() const override { return false; }
@@ -111,8 +121,6 @@ class LinienErfassung : public Messaufgabe, public AdaptivAufgabe {
  private:
   /// The reading of `antwort` in mm, turned for the mounting; Y as the head counts it.
   std::pair<double, double> gelesen(const KameraAntwort& antwort) const;
-  /// Stores a pair in mm at the current point, brought onto the line; nothing on a line without points.
-  void speichern(double X, double Y);
   void adaptVerfehlt(float sekunden);
 
   Profil& profil_;

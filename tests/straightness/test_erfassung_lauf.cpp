@@ -353,6 +353,10 @@ class OwnLine : public LinienErfassung {
     description.pauseNachPunkt = 1.5;
   }
   LinienGeometrie& linie() override { return geometry; }
+  std::pair<double, double> PunktWert() override {
+    const auto point = static_cast<std::size_t>(geometry.AktMP);
+    return {X.at(point), Y.at(point)};
+  }
   std::int16_t Montage() const override { return 1; }
   AdaptVorgaben& adaptVorgaben() override { return adapt; }
   const ZyklusBeschreibung& beschreibung() const override { return description; }
