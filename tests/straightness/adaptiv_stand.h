@@ -1,5 +1,10 @@
 #pragma once
 
+#include <cmath>
+#include <functional>
+#include <utility>
+#include <vector>
+
 #include "straightness/erfassung_stand.h"
 
 namespace korvin {
@@ -36,6 +41,8 @@ class AdaptivTest : public GeradErfassungTest {
   /// Asks for a point and lets the window begin it; it has no sample yet.
   void begin(char asked = 'M') {
     if (!cycle.verbindung().online) online();
+    // A point before has made requests lapse before the next poll may come.
+    cycle.tmrKeyPressed().setInterval(1000);
     cycle.anfordern(asked);
     for (int i = 0; i < 200 && !cycle.adaptiv(); ++i) run(0.01);
     ASSERT_TRUE(cycle.adaptiv());
@@ -45,14 +52,22 @@ class AdaptivTest : public GeradErfassungTest {
     for (double waited = 0; waited < longest && cycle.adaptiv(); waited += 0.05) run(0.05);
     return !cycle.adaptiv();
   }
-  /// Each sample of the head takes the next of these X, Y in counts from its centre, round and round.
-  void samples(std::vector<std::pair<int, int>> counts) {
-    world.head.behaviour = [this, counts, next = std::size_t{0}](char asked) mutable {
+  /// Sample n of the head, from 1, stands at these X, Y in counts from its centre.
+  void samples(std::function<std::pair<double, double>(int n)> counts) {
+    world.head.behaviour = [this, counts, n = 0](char asked) mutable {
       if (asked != 'J') return test::answerFrame(test::answerBody('T'));
-      const auto [x, y] = counts[next++ % counts.size()];
-      return test::answerFrame(
-          test::answerBody('j', 'K', 250000 + x, 250000 + y, world.head.intensity, '1', world.head.status));
+      const auto [x, y] = counts(++n);
+      return sampleFrame(x, y);
     };
+  }
+  /// Samples to either side of the centre in turn, in counts.
+  void swinging(double x, double y) {
+    samples([x, y](int n) { return n % 2 == 1 ? std::pair(x, y) : std::pair(-x, -y); });
+  }
+  std::string sampleFrame(double x, double y, char kind = 'j') {
+    const auto counts = [](double from) { return 250000 + static_cast<int>(std::lround(from)); };
+    return test::answerFrame(
+        test::answerBody(kind, 'K', counts(x), counts(y), world.head.intensity, '1', world.head.status));
   }
 
   ScriptedFehlerFrage question{world.dictionary};

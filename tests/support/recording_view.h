@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -47,6 +48,10 @@ class RecordingView : public MessfensterAnsicht {
     changed = changed || geaendert;
     if (onRedraw) onRedraw();
   }
+  void zeigeAdaptProgress(const std::optional<Fortschritt>& fortschritt) override {
+    progress = fortschritt;
+    if (onProgress) onProgress();
+  }
   void entladen() override {
     ++unloads;
     if (onUnload) onUnload();
@@ -74,6 +79,8 @@ class RecordingView : public MessfensterAnsicht {
   std::map<std::string, bool> keyFree;
   std::vector<std::string> presses;
   bool hourglass = false;
+  std::optional<Fortschritt> progress;  ///< of the adaptive point, where one is shown
+  std::function<void()> onProgress;
   int redraws = 0;
   std::function<void()> onRedraw;
   bool changed = false;
