@@ -52,15 +52,24 @@ bool AdaptSet::istDicht() const {
   return N * ergebnis_.sekundenJePosition() <= N;
 }
 
+void AdaptSet::texteSetzen(AdaptParameter& texte, int position) const {
+  const bool dicht = istDicht();
+  const auto index = static_cast<std::size_t>(position);
+  texte.zeit = formatNumber(position * ergebnis_.sekundenJePosition(), "0") + " s";
+  texte.FX = dicht ? messzahl(unsicherheit_.FxTabelle.at(index)) : "0";
+  texte.FY = dicht ? messzahl(unsicherheit_.FyTabelle.at(index)) : "0";
+}
+
 void AdaptSet::SliderGeaendert(int wert) {
   slider_.wert = std::clamp(wert, slider_.minimum, slider_.maximum);
-  const double sekunden = ergebnis_.sekundenJePosition();
-  anzeige_.zeit = formatNumber(slider_.wert * sekunden, "0") + " s";
-  const bool dicht = istDicht();
-  const auto position = static_cast<std::size_t>(slider_.wert);
-  anzeige_.FX = dicht ? messzahl(unsicherheit_.FxTabelle.at(position)) : "0";
-  anzeige_.FY = dicht ? messzahl(unsicherheit_.FyTabelle.at(position)) : "0";
+  texteSetzen(anzeige_, slider_.wert);
   speichernFrei_ = true;
+}
+
+std::string AdaptSet::hinweis(int position) const {
+  AdaptParameter texte;
+  texteSetzen(texte, position);
+  return texte.zeit + ": FX " + texte.FX + "  FY " + texte.FY;
 }
 
 void AdaptSet::OptPrio(int index) {

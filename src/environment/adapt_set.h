@@ -52,6 +52,9 @@ class AdaptSet {
   /// Texts of the panels, and the choice of `OptPrio`.
   const AdaptParameter& anzeige() const { return anzeige_; }
   const Unsicherheit& unsicherheit() const { return unsicherheit_; }
+  /// What a position of the tables says: "25 s: FX 0.0123  FY 0.0456".
+  std::string hinweis(int position) const;
+  std::int16_t Masssystem() const { return ergebnis_.Masssystem; }
   /// How adaptive measuring would do with the settings stored when the frame came up.
   const Aussicht& aussicht() const { return aussicht_; }
   /// The diagram beside the slider; empty where the panels show 0. Refers to the tables of this object.
@@ -60,6 +63,8 @@ class AdaptSet {
  private:
   /// The run has at least one sample a second; with fewer, its uncertainties are shown as 0.
   bool istDicht() const;
+  /// The three texts at a position.
+  void texteSetzen(AdaptParameter& texte, int position) const;
 
   Profil& profil_;
   AnalyseErgebnis ergebnis_;

@@ -11,13 +11,17 @@
 namespace korvin {
 namespace {
 
-constexpr double RandLinks = 0.18;  ///< margins, in parts of the picture
+constexpr double RandLinks = 0.15;  ///< margins, in parts of the picture
 constexpr double RandRechts = 0.04;
-constexpr double RandOben = 0.14;
-constexpr double RandUnten = 0.18;
-constexpr int HoehenMax = 4;     ///< steps of the heights at most
-constexpr double Luft = 1.3;     ///< room of a number against its width
-constexpr double Scheibe = 3.5;  ///< radius of the marks, in line widths
+constexpr double ZeilenOben = 1.5;  ///< in lines of text
+constexpr double ZeilenUnten = 1.5;
+constexpr int HoehenMax = 4;  ///< steps of the heights at most
+constexpr double Luft = 1.3;  ///< room of a number against its width
+// Where both curves coincide, FX shows on both sides of FY.
+constexpr double BreiteFX = 3;  ///< line widths
+constexpr double BreiteFY = 1.5;
+constexpr double ScheibeFX = 4;  ///< radius of the marks, in line widths
+constexpr double ScheibeFY = 2.5;
 
 /// The plot: seconds 0 to `rechts`, uncertainties 0 to `oben`, with the steps of its grid.
 struct Feld {
@@ -25,10 +29,12 @@ struct Feld {
   double oben = 1;
   double hoehenSchritt = 1;
 
-  DataWindow fenster() const {
+  /// `zeile` is the height of a line of text, in parts of the picture.
+  DataWindow fenster(double zeile) const {
     const double breite = rechts / (1 - RandLinks - RandRechts);
-    const double hoehe = oben / (1 - RandOben - RandUnten);
-    return {-RandLinks * breite, oben + RandOben * hoehe, rechts + RandRechts * breite, -RandUnten * hoehe};
+    const double hoehe = oben / std::max(0.1, 1 - (ZeilenOben + ZeilenUnten) * zeile);
+    return {-RandLinks * breite, oben + ZeilenOben * zeile * hoehe, rechts + RandRechts * breite,
+            -ZeilenUnten * zeile * hoehe};
   }
 };
 
@@ -51,6 +57,7 @@ double runderSchritt(double mindestens) {
 
 Feld feldFuer(const UnsicherheitsBild& bild) {
   Feld feld;
+  if (!zuZeichnen(bild)) return feld;
   feld.rechts = bild.maximum * bild.sekundenJePosition;
   const double hoch = std::max(hoechster(bild.Fx, bild.maximum), hoechster(bild.Fy, bild.maximum));
   feld.hoehenSchritt = runderSchritt(hoch / HoehenMax);
@@ -64,14 +71,22 @@ double zeit(const UnsicherheitsBild& bild, int position) {
 
 // ---- Frame ----
 
-void hinausZeichnen(DrawingSurface& surface, const UnsicherheitsBild& bild, const Feld& feld) {
+void hinausGrund(DrawingSurface& surface, const UnsicherheitsBild& bild, const Feld& feld) {
   const double ende = zeit(bild, bild.N);
-  if (!(ende < feld.rechts)) return;
-  surface.fill({ende, 0}, {feld.rechts, feld.oben}, FarbeAnalyseHinaus);
-  const TextLook look{FarbeAnalyseText, 0.9};
-  if (surface.textSize(bild.hinaus, look).width <= feld.rechts - ende)
-    surface.text({(ende + feld.rechts) / 2, feld.oben}, bild.hinaus, look,
-                 {HorizontalAnchor::centre, VerticalAnchor::top});
+  if (ende < feld.rechts) surface.fill({ende, 0}, {feld.rechts, feld.oben}, FarbeAnalyseHinaus);
+}
+
+void hinausWort(DrawingSurface& surface, const UnsicherheitsBild& bild, const Feld& feld) {
+  const TextLook look{FarbeAnalyseText};
+  const double ende = zeit(bild, bild.N);
+  const double mitte = (ende + feld.rechts) / 2;
+  const DataSize platz = surface.textSize(bild.hinaus, look);
+  if (bild.hinaus.empty() || platz.width > feld.rechts - ende) return;
+  // The grid would run through the word.
+  const double oben = feld.oben - platz.height / 4;
+  surface.fill({mitte - platz.width / 2, oben}, {mitte + platz.width / 2, oben - platz.height},
+               FarbeAnalyseHinaus);
+  surface.text({mitte, oben}, bild.hinaus, look, {HorizontalAnchor::centre, VerticalAnchor::top});
 }
 
 /// As many decimals as the step of the heights needs.
@@ -107,7 +122,7 @@ void zeitenZeichnen(DrawingSurface& surface, const Feld& feld) {
 
 /// The unit of the heights, and which curve is which.
 void legendeZeichnen(DrawingSurface& surface, const UnsicherheitsBild& bild, const Feld& feld) {
-  const double hoehe = (feld.oben + feld.fenster().top) / 2;
+  const double hoehe = feld.oben + ZeilenOben / 2 * surface.textSize("0", {}).height;
   surface.text({0, hoehe}, bild.inch ? "[mil]" : "[mm]", {FarbeAnalyseText},
                {HorizontalAnchor::left, VerticalAnchor::middle});
   const Anchor rechts{HorizontalAnchor::right, VerticalAnchor::middle};
@@ -128,35 +143,42 @@ void stueckZeichnen(DrawingSurface& surface, const UnsicherheitsBild& bild, std:
 }
 
 void kurveZeichnen(DrawingSurface& surface, const UnsicherheitsBild& bild, std::span<const double> tabelle,
-                   Farbe farbe) {
+                   Stroke stroke) {
   const int ende = std::clamp(bild.N, 1, bild.maximum);
-  stueckZeichnen(surface, bild, tabelle, 1, ende, {farbe, 2});
-  stueckZeichnen(surface, bild, tabelle, ende, bild.maximum, {farbe, 2, LineStyle::dashed});
+  stueckZeichnen(surface, bild, tabelle, 1, ende, stroke);
+  stroke.style = LineStyle::dashed;
+  stueckZeichnen(surface, bild, tabelle, ende, bild.maximum, stroke);
 }
 
 void wahlZeichnen(DrawingSurface& surface, const UnsicherheitsBild& bild, const Feld& feld) {
   const double t = zeit(bild, bild.wert);
   surface.line({t, 0}, {t, feld.oben}, {FarbeAnalyseZeit});
   if (bild.wert < 1) return;
-  const double radius = Scheibe * surface.lineWidth().width;
+  const double breite = surface.lineWidth().width;
   const auto position = static_cast<std::size_t>(bild.wert);
-  surface.disc({t, bild.Fx[position]}, radius, FarbeAnalyseFX);
-  surface.disc({t, bild.Fy[position]}, radius, FarbeAnalyseFY);
+  surface.disc({t, bild.Fx[position]}, ScheibeFX * breite, FarbeAnalyseFX);
+  surface.disc({t, bild.Fy[position]}, ScheibeFY * breite, FarbeAnalyseFY);
 }
 
 }  // namespace
 
+ZeitAchse unsicherheitZeitAchse() {
+  return {RandLinks, 1 - RandRechts};
+}
+
 void unsicherheitRahmenZeichnen(DrawingSurface& surface, const UnsicherheitsBild& bild) {
-  const Feld feld = zuZeichnen(bild) ? feldFuer(bild) : Feld{};
-  surface.setWindow(feld.fenster());
+  const Feld feld = feldFuer(bild);
+  surface.setWindow({});
+  surface.setWindow(feld.fenster(surface.textSize("0", {}).height));
   surface.clear(FarbeAnalyseGrund);
   if (!zuZeichnen(bild)) return;
-  hinausZeichnen(surface, bild, feld);
+  hinausGrund(surface, bild, feld);
   hoehenZeichnen(surface, feld);
   zeitenZeichnen(surface, feld);
+  hinausWort(surface, bild, feld);
   legendeZeichnen(surface, bild, feld);
-  kurveZeichnen(surface, bild, bild.Fx, FarbeAnalyseFX);
-  kurveZeichnen(surface, bild, bild.Fy, FarbeAnalyseFY);
+  kurveZeichnen(surface, bild, bild.Fx, {FarbeAnalyseFX, BreiteFX});
+  kurveZeichnen(surface, bild, bild.Fy, {FarbeAnalyseFY, BreiteFY});
 }
 
 void unsicherheitWahlZeichnen(DrawingSurface& surface, const UnsicherheitsBild& bild) {

@@ -33,6 +33,13 @@ struct UnsicherheitsBild {
 // Drawn in two layers. The window's left and right are seconds, its heights uncertainties. Without a
 // position, or with a time that does not run forward, there is an empty ground.
 
+/// Where the time axis begins and ends, in parts of the picture's width from its left edge.
+struct ZeitAchse {
+  double anfang = 0;
+  double ende = 1;
+};
+ZeitAchse unsicherheitZeitAchse();
+
 /// Sets the window, clears the picture and draws all that stays as the slider moves: grid, numbers, both
 /// curves. The run's part of them is solid; what lies beyond it is dashed, on a ground of its own.
 void unsicherheitRahmenZeichnen(DrawingSurface& surface, const UnsicherheitsBild& bild);

@@ -68,20 +68,44 @@ void paintCheckMark(QPainter& painter, const QRectF& place, const QColor& colour
   painter.restore();
 }
 
-void paintCheckBox(QPainter& painter, const QStyleOption& option) {
-  const bool enabled = (option.state & QStyle::State_Enabled) != 0;
+QColor indicatorEdge(const QStyleOption& option) {
   const bool active = (option.state & (QStyle::State_HasFocus | QStyle::State_MouseOver)) != 0;
-  const QRectF frame = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+  if ((option.state & QStyle::State_Enabled) == 0) return themeColour(ThemeColour::line);
+  return themeColour(active ? ThemeColour::accent : ThemeColour::softText);
+}
+
+/// The empty box of a check box, or with a radius of half its side the ring of a radio button.
+void paintIndicator(QPainter& painter, const QPen& edge, const QBrush& ground, const QRectF& frame,
+                    double radius) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(themeColour(enabled && active ? ThemeColour::accent : ThemeColour::softText));
-  if (!enabled) painter.setPen(themeColour(ThemeColour::line));
-  painter.setBrush(option.palette.color(QPalette::Base));
-  painter.drawRoundedRect(frame, scaled(3), scaled(3));
+  painter.setPen(edge);
+  painter.setBrush(ground);
+  painter.drawRoundedRect(frame, radius, radius);
   painter.restore();
+}
+
+void paintCheckBox(QPainter& painter, const QStyleOption& option) {
+  const QRectF frame = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+  paintIndicator(painter, indicatorEdge(option), option.palette.color(QPalette::Base), frame, scaled(3));
   if ((option.state & QStyle::State_On) == 0) return;
   const double inset = frame.width() * 0.18;
   paintCheckMark(painter, frame.adjusted(inset, inset, -inset, -inset), option.palette.color(QPalette::Text));
+}
+
+void paintRadioButton(QPainter& painter, const QStyleOption& option) {
+  const QRectF frame = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+  // A ring as thin as the box would be paler: most of it falls between pixels.
+  paintIndicator(painter, QPen(indicatorEdge(option), 1.3), option.palette.color(QPalette::Base), frame,
+                 frame.height() / 2);
+  if ((option.state & QStyle::State_On) == 0) return;
+  const double inset = frame.width() * 0.27;
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(option.palette.color(QPalette::Text));
+  painter.drawEllipse(frame.adjusted(inset, inset, -inset, -inset));
+  painter.restore();
 }
 
 /// A list that is closed: the frame of an entry box, with an arrow at its right.
@@ -137,6 +161,8 @@ void KorvinStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
     paintCheckMark(*painter, option->rect, option->palette.color(QPalette::Text));
   } else if (element == PE_IndicatorCheckBox) {
     paintCheckBox(*painter, *option);
+  } else if (element == PE_IndicatorRadioButton) {
+    paintRadioButton(*painter, *option);
   } else {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
   }

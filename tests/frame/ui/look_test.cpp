@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QLibraryInfo>
 #include <QMenu>
+#include <QRadioButton>
 #include <QTest>
 #include <QTextLayout>
 #include <QToolButton>
@@ -247,16 +248,23 @@ TEST(ControlLookTest, AClosedListShowsItsArrow) {
   EXPECT_TRUE(has(picture(list), themeColour(ThemeColour::softText).rgb()));
 }
 
-TEST(ControlLookTest, ACheckBoxHasAFrameOnAnyGround) {
-  QCheckBox off;
-  QCheckBox on;
+template <class Button>
+class ChoiceLookTest : public ::testing::Test {};
+using ChoiceButtons = ::testing::Types<QCheckBox, QRadioButton>;
+TYPED_TEST_SUITE(ChoiceLookTest, ChoiceButtons);
+
+TYPED_TEST(ChoiceLookTest, HasAFrameOnAnyGround) {
+  TypeParam off;
+  TypeParam on;
   on.setChecked(true);
   const auto frame = [] { return themeColour(ThemeColour::softText); };
   // Its lines are smoothed; somewhere along them the full colour stands.
   const auto shows = [](const QImage& image, const QColor& colour) {
-    for (int x = 0; x < image.width(); ++x) {
-      const QColor there = image.pixelColor(x, image.height() / 2);
-      if (std::abs(there.lightness() - colour.lightness()) < 12) return true;
+    for (int y = 0; y < image.height(); ++y) {
+      for (int x = 0; x < image.width(); ++x) {
+        const QColor there = image.pixelColor(x, y);
+        if (std::abs(there.lightness() - colour.lightness()) < 12) return true;
+      }
     }
     return false;
   };
