@@ -112,5 +112,11 @@ inline constexpr Einstellung CheckXTabelle{"DruckInfo_G", "CheckXTabelle", "0"};
 inline constexpr Einstellung CheckYTabelle{"DruckInfo_G", "CheckYTabelle", "0"};
 }  // namespace FormGeradheit
 
+/// The environment analysis, beside what it reads as `FormPosition`.
+namespace FormUmgebungsAnalyse {
+inline constexpr Einstellung Filter{"MessInfo_G", "Filter", "1"};
+inline constexpr Einstellung Beta5{"MessInfo_G", "Beta5", "-1"};
+}  // namespace FormUmgebungsAnalyse
+
 }  // namespace einstellung
 }  // namespace korvin

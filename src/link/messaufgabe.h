@@ -48,6 +48,9 @@ struct ZyklusBeschreibung {
   bool rtsNachJederAntwort;  ///< RTS rises after an answer of any kind, not after "m" alone
   bool einzelEndetNachFehler;  ///< a lost link, too, brings pointer and keys of a single measurement to rest
   bool einrichtenHaeltAn;      ///< the polling stands still while the settings dialog is open
+  double laufGrenze;           ///< limit of a run's telegrams in seconds; 0: `JustageZeitLimit` of the filter
+  bool tastenBeendenLauf;      ///< the measuring keys of window and head end a run
+  bool sanduhrImLauf;          ///< a run shows the hourglass
 };
 
 inline constexpr int InfoToggleMs = 2000;     ///< interval of `tmrInfoToggle`
@@ -59,6 +62,7 @@ namespace zyklus {
 inline constexpr std::array<const char*, 4> MesstastenGerad{"XYMP1", "XYMPN", "XYMPNN", "XYMPKMP"};
 inline constexpr std::array<const char*, 2> GesperrtLaufendGerad{"XYMP1", "XYMPKMP"};
 inline constexpr std::array<const char*, 3> GesperrtSchnellGerad{"XYMP1", "XYMPN", "XYMPKMP"};
+inline constexpr std::array<const char*, 1> GesperrtAnalyse{"XYMPNN"};
 }  // namespace zyklus
 
 /// The position window's line of that table. A failed single measurement keeps hourglass and key until the
@@ -90,6 +94,9 @@ inline constexpr ZyklusBeschreibung ZyklusPosition{
     .rtsNachJederAntwort = false,
     .einzelEndetNachFehler = false,
     .einrichtenHaeltAn = false,
+    .laufGrenze = 0,
+    .tastenBeendenLauf = true,
+    .sanduhrImLauf = false,
 };
 
 /// The straightness window's. A reading belongs to the current point: a single one is shown for a while
@@ -121,6 +128,43 @@ inline constexpr ZyklusBeschreibung ZyklusGerad{
     .rtsNachJederAntwort = true,
     .einzelEndetNachFehler = true,
     .einrichtenHaeltAn = true,
+    .laufGrenze = 0,
+    .tastenBeendenLauf = true,
+    .sanduhrImLauf = false,
+};
+
+/// The environment analysis'. Its one key is disabled by a run and stays so: the window frees it where it is
+/// cleared. A run ends by its time, whatever key is pressed, and an answer of another kind cancels it.
+inline constexpr ZyklusBeschreibung ZyklusAnalyse{
+    .titelText = 5502,
+    .abschnitt = "MessInfo_G",
+    .tasteZurueck = "MPL",
+    .tasteVor = "MPR",
+    .tasteEinzel = "XYMP1",
+    .tasteLaufend = "XYMPNN",
+    .tasteSchnell = "XYMPNN",
+    .tasteEinrichten = "EINRICHTEN",
+    .messtasten = {},
+    .gesperrtLaufend = zyklus::GesperrtAnalyse,
+    .gesperrtSchnell = zyklus::GesperrtAnalyse,
+    .pollingMs = 31,
+    .jMs = LaufJMs,
+    .keyPressedMs = LaufKeyPressedMs,
+    .laufendMs = LaufJMs,
+    .schnellMs = LaufJMs,
+    .pauseNachPunkt = 0,
+    .wertFarbe = WertFarbe::schrift,
+    .laufFaerbt = false,
+    .kopfImLauf = false,
+    .mAlsLauftelegramm = false,
+    .tImLauf = true,
+    .abgelehntesZeichnen = false,
+    .rtsNachJederAntwort = false,
+    .einzelEndetNachFehler = false,
+    .einrichtenHaeltAn = false,
+    .laufGrenze = 2.0,
+    .tastenBeendenLauf = false,
+    .sanduhrImLauf = true,
 };
 
 /// How a window's record says that the head is reached.
@@ -128,6 +172,12 @@ struct LinkAngaben {
   std::int16_t port = 1;
   std::string settings;
   std::string id;
+};
+
+/// How a run ended.
+enum class LaufEnde {
+  regulaer,    ///< by itself or by a command
+  verbindung,  ///< the link was lost, or a tick failed
 };
 
 /// What the next tick of a running measurement does.
@@ -175,10 +225,17 @@ class Messaufgabe {
   virtual void laufBeginnt(float sekunden) = 0;
   /// Decides what the present tick of the run does.
   virtual LaufSchritt laufSchritt() = 0;
+  /// The run got an answer of a kind that it does not go by; the icon shows already.
+  virtual void unerwarteteAntwort() {}
+  /// A tick of the run is done, its answer taken. Asked next is `laufFertig`.
+  virtual void schrittGetan() {}
   /// True when the run has taken all its points.
   virtual bool laufFertig() const = 0;
   /// The run, or the adaptive point, is over, for whatever reason.
   virtual void laufBeendet() = 0;
+  /// Keys and timers stand as after the run: what the kind makes of its readings. An exception at a regular
+  /// end goes to the link recovery, and this is called again for it; there nothing may be thrown.
+  virtual void nachLauf(LaufEnde /*ende*/) {}
 
   /// Takes a reading whose intensity is good. Called for single and running measurements.
   virtual void wertUebernehmen(const KameraAntwort& antwort) = 0;

@@ -386,6 +386,7 @@ void Messzyklus::laufZeigen() {
   if (b.laufFaerbt) ansicht_.setWertFarbe(FarbeWeiss);
   ansicht_.setTasteFrei(b.tasteEinrichten, false);
   if (b.kopfImLauf && marken_.online) kopfZeigen();
+  if (b.sanduhrImLauf) ansicht_.zeigeSanduhr(true);
   laeuft_ = true;
   tmrPolling_->setEnabled(false);
 }
@@ -397,7 +398,9 @@ void Messzyklus::tickJ() {
     laufBeenden();
     return;
   }
-  if (schritt.art == LaufSchritt::Art::senden && !frage(schritt.befehl, u_.korCom.JustageZeitLimit())) {
+  const double eigeneGrenze = aufgabe_.beschreibung().laufGrenze;
+  const double grenze = eigeneGrenze > 0 ? eigeneGrenze : u_.korCom.JustageZeitLimit();
+  if (schritt.art == LaufSchritt::Art::senden && !frage(schritt.befehl, grenze)) {
     verbindungVerloren();
     return;
   }
@@ -408,6 +411,7 @@ void Messzyklus::tickJ() {
     return;
   }
   if (schritt.art == LaufSchritt::Art::senden) antwortImLauf();
+  aufgabe_.schrittGetan();
   if (laufGehtWeiter(schritt)) {
     tmrPolling_->setEnabled(false);
     tmrJ_->setEnabled(true);
@@ -423,17 +427,19 @@ void Messzyklus::antwortImLauf() {
     uebernehmen();
   } else if (art != 'T' || !b.tImLauf) {
     icon(IconFrage);
+    aufgabe_.unerwarteteAntwort();
   }
   statusIcons();
 }
 
 bool Messzyklus::laufGehtWeiter(const LaufSchritt& schritt) {
-  if (schritt.art == LaufSchritt::Art::senden && u_.antwort.Taste == 'J') return false;
-  if (tastenzustand_ == 'Q' || tastenzustand_ == 'J') return false;
+  const bool tasteAmKopf = schritt.art == LaufSchritt::Art::senden && u_.antwort.Taste == 'J';
+  const bool taste = tasteAmKopf || tastenzustand_ == 'Q' || tastenzustand_ == 'J';
+  if (taste && aufgabe_.beschreibung().tastenBeendenLauf) return false;
   return !aufgabe_.laufFertig();
 }
 
-void Messzyklus::laufBeenden() {
+void Messzyklus::laufBeenden(LaufEnde ende) {
   if (!laeuft_) return;
   laeuft_ = false;
   const bool adaptiv = std::exchange(adaptiv_, nullptr) != nullptr;
@@ -450,7 +456,15 @@ void Messzyklus::laufBeenden() {
   tastenFrei(b.messtasten, true);
   if (b.laufFaerbt) laufFaerben();
   if (adaptiv) adaptVerbergen();
+  if (b.sanduhrImLauf && !schliessen_) ansicht_.zeigeSanduhr(false);
   tmrPolling_->setEnabled(true);
+  nachLauf(ende);
+}
+
+void Messzyklus::nachLauf(LaufEnde ende) {
+  wertetAus_ = true;
+  aufgabe_.nachLauf(ende);
+  wertetAus_ = false;
 }
 
 void Messzyklus::laufFaerben() {
@@ -574,7 +588,9 @@ bool Messzyklus::uebernehmen() {
 
 void Messzyklus::verbindungVerloren() {
   AdaptivAufgabe* const punkt = adaptiv_;
-  laufBeenden();
+  laufBeenden(LaufEnde::verbindung);
+  // The run had ended; what failed is its evaluation.
+  if (wertetAus_) nachLauf(LaufEnde::verbindung);
   tmrPolling_->setEnabled(false);
   icon(IconFunk);
   // No reading is under way from here to the next answer, so no command has to wait.

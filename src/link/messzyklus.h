@@ -71,7 +71,7 @@ class Messzyklus {
   void setTastenGesperrt(bool gesperrt) { tastenGesperrt_ = gesperrt; }
 
   /// Ends a running measurement or an adaptive point with all that belongs to it; nothing without one.
-  void laufBeenden();
+  void laufBeenden(LaufEnde ende = LaufEnde::regulaer);
 
   /// Runs `befehl` at once, or, while a telegram is under way, as soon as its tick has ended: a reading must
   /// not land in data that a command replaced or cleared. One command waits at most, the last one. While the
@@ -140,6 +140,7 @@ class Messzyklus {
   void adaptVerbergen();
   void antwortImLauf();
   void laufFaerben();
+  void nachLauf(LaufEnde ende);
   bool laufGehtWeiter(const LaufSchritt& schritt);
   void triggerBedient();
   void wartendesTun();
@@ -168,6 +169,7 @@ class Messzyklus {
   bool entladen_ = false;
   bool laeuft_ = false;
   AdaptivAufgabe* adaptiv_ = nullptr;  ///< of the adaptive point under way
+  bool wertetAus_ = false;             ///< the task evaluates a run, or failed in it
   bool einzel_ = false;                ///< pointer and keys are those of a single measurement
   bool imTick_ = false;
   bool tastenGesperrt_ = false;
