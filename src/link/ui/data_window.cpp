@@ -63,12 +63,12 @@ QMenu* DatenFenster::messMenu(std::int16_t einzel, std::int16_t laufend, std::in
   return menu;
 }
 
-void DatenFenster::punktListenEintrag(QMenu* menu, QWidget& liste) {
+void DatenFenster::punktListenEintrag(QMenu* menu, std::function<void(bool an)> zeigen) {
   QAction* eintrag = menuEintrag(menu, "M_PunktListe", 7370, [] {});
   eintrag->setCheckable(true);
   eintrag->setChecked(true);
   eintrag->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_L));
-  connect(eintrag, &QAction::toggled, &liste, &QWidget::setVisible);
+  connect(eintrag, &QAction::toggled, this, std::move(zeigen));
 }
 
 void DatenFenster::extrasUndHilfeMenu() {

@@ -66,8 +66,8 @@ class DatenFenster : public Messfenster {
   /// Lays out the middle: `bild` to the left with so many hundredths of the width, beside it `panels` over
   /// `liste`.
   void mitteAnordnen(QWidget& bild, int hundertstel, QWidget& panels, QWidget& liste);
-  /// The entry of `menu` that shows or hides `liste`.
-  void punktListenEintrag(QMenu* menu, QWidget& liste);
+  /// The entry of `menu` that shows or hides the table of points by `zeigen`.
+  void punktListenEintrag(QMenu* menu, std::function<void(bool an)> zeigen);
   /// The menus of the settings and of the help.
   void extrasUndHilfeMenu();
   /// Where pictures of diagrams go: to the folder of the file, under its name.

@@ -27,6 +27,9 @@ constexpr std::int16_t TextBereit = 7220;
 constexpr std::int16_t TextEinzel = 7221;
 constexpr std::int16_t TextSchnell = 7223;
 constexpr std::int16_t TextSchliesst = 7225;
+constexpr std::int16_t TextAdaptiv = 7619;
+constexpr std::int16_t TextFortschritt = 7620;
+constexpr double progressWidth = 130;
 
 std::array<int, 3> startIntervalle(const ZyklusBeschreibung& beschreibung) {
   return {beschreibung.pollingMs, beschreibung.jMs, beschreibung.keyPressedMs};
@@ -54,14 +57,24 @@ void Messfenster::aufbauen() {
   led_ = new LedLabel(grund);
   betrieb_ = new QLabel(grund);
   betrieb_->setObjectName(QStringLiteral("lblBetrieb"));
+  AdaptProgress_ = new QProgressBar(grund);
+  AdaptProgress_->setObjectName(QStringLiteral("AdaptProgress"));
+  AdaptProgress_->setTextVisible(false);
+  AdaptProgress_->hide();
+  adaptZeile_ = new ServiceLine(1, grund);
+  adaptZeile_->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+  adaptZeile_->hide();
   serviceZeile_ = new ServiceLine(0, grund);
   service_ = new ServicePanel(startIntervalle(aufgabe_.beschreibung()), grund);
 
+  AdaptProgress_->setFixedSize(scaled(progressWidth), betrieb_->fontMetrics().height());
   auto* zeile = new QHBoxLayout;
   zeile->setSpacing(scaled(8));
   zeile->addWidget(led_);
   zeile->addWidget(betrieb_);
+  zeile->addWidget(AdaptProgress_);
   zeile->addSpacing(scaled(12));
+  zeile->addWidget(adaptZeile_);
   zeile->addWidget(serviceZeile_, 1);
   auto* spalte = new QVBoxLayout(grund);
   spalte->setContentsMargins(scaled(10), scaled(10), scaled(10), scaled(6));
@@ -73,7 +86,8 @@ void Messfenster::aufbauen() {
 }
 
 void Messfenster::serviceVerbinden() {
-  serviceZeile_->onDoppelklick = [this] { service_->setVisible(service_->isHidden()); };
+  for (ServiceLine* zeile : {serviceZeile_, adaptZeile_})
+    zeile->onDoppelklick = [this] { service_->setVisible(service_->isHidden()); };
   service_->onIntervall = [this](int index, int milliseconds) {
     const std::array<Timer*, 3> timer = {&zyklus_.tmrPolling(), &zyklus_.tmrJ(), &zyklus_.tmrKeyPressed()};
     timer.at(static_cast<std::size_t>(index))->setInterval(milliseconds);
@@ -84,6 +98,7 @@ void Messfenster::beschriften() {
   kopf_->setTexte(u_.dictionary);
   led_->setToolTip(qDicText(TextLed));
   serviceZeile_->setToolTip(qDicText(TextServiceZeile));
+  AdaptProgress_->setAccessibleName(qDicText(TextFortschritt));
   service_->setTitle(qDicText(TextService));
   ServicePanelTexte texte;
   texte.telegramme = qDicText(TextTelegramme);
@@ -256,6 +271,7 @@ void Messfenster::drueckeTaste(const std::string& taste) {
 std::int16_t Messfenster::betriebText() {
   const ZyklusBeschreibung& b = aufgabe_.beschreibung();
   if (zyklus_.Schliessen()) return TextSchliesst;
+  if (zyklus_.adaptiv()) return TextAdaptiv;
   if (toolBar_->isPressed(QLatin1String(b.tasteSchnell))) return TextSchnell;
   if (toolBar_->isPressed(QLatin1String(b.tasteLaufend))) return TextLaufend;
   return einzelLaeuft_ ? TextEinzel : TextBereit;
@@ -281,7 +297,16 @@ void Messfenster::zeigeInfo(bool sichtbar) {
 }
 
 void Messfenster::zeigeServiceZeile(int index, const std::string& text) {
-  if (index == 0) serviceZeile_->zeige(qText(text));
+  ServiceLine* zeile = index == 0 ? serviceZeile_ : adaptZeile_;
+  zeile->zeige(qText(text));
+  zeile->show();
+}
+
+void Messfenster::zeigeAdaptProgress(const std::optional<Fortschritt>& fortschritt) {
+  AdaptProgress_->setVisible(fortschritt.has_value());
+  if (!fortschritt) return;
+  AdaptProgress_->setMaximum(fortschritt->maximum);
+  AdaptProgress_->setValue(fortschritt->wert);
 }
 
 void Messfenster::zeigeTelegramm(const std::string& rumpf) {

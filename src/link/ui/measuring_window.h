@@ -3,12 +3,14 @@
 #include <QEventLoop>
 #include <QHash>
 #include <QMainWindow>
+#include <QProgressBar>
 #include <QSet>
 #include <QString>
 #include <QVector>
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
 
@@ -118,6 +120,7 @@ class Messfenster : public QMainWindow, public MessfensterAnsicht {
   void zeigeMontage(const std::string& bild) override;
   void zeigeKamera(const std::string& text) override;
   void zeigeVerbindung(const Verbindungsmarken& marken) override;
+  void zeigeAdaptProgress(const std::optional<Fortschritt>& fortschritt) override;
   void zeigeTaste(const std::string& taste, bool gedrueckt) override;
   void setTasteFrei(const std::string& taste, bool frei) override;
   void drueckeTaste(const std::string& taste) override;
@@ -142,6 +145,8 @@ class Messfenster : public QMainWindow, public MessfensterAnsicht {
   HeadPanel* kopf_ = nullptr;
   LedLabel* led_ = nullptr;
   QLabel* betrieb_ = nullptr;
+  QProgressBar* AdaptProgress_ = nullptr;
+  ServiceLine* adaptZeile_ = nullptr;  ///< the second service line
   ServiceLine* serviceZeile_ = nullptr;
   ServicePanel* service_ = nullptr;
   QAction* M_KVNOnline_ = nullptr;

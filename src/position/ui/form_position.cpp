@@ -81,7 +81,7 @@ void FormPosition::menusAnlegen() {
   M_Gitter_->setCheckable(true);
   M_Gitter_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_G));
   ansicht->addSeparator();
-  punktListenEintrag(ansicht, *liste_);
+  punktListenEintrag(ansicht, [this](bool an) { liste_->setVisible(an); });
 
   verbindungsMenu();
   extrasUndHilfeMenu();

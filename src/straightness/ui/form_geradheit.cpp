@@ -9,6 +9,7 @@
 #include "frame/messart.h"
 #include "frame/ui/qt_text.h"
 #include "frame/ui/theme.h"
+#include "frame/zahl_text.h"
 #include "straightness/achsen_bereich.h"
 #include "straightness/linien_texte.h"
 #include "straightness/masseinheit.h"
@@ -67,7 +68,9 @@ FormGeradheit::FormGeradheit(const GeradUmgebung& umgebung, QWidget* parent)
       befehle_(befehlUmgebung(daten_)),
       x_{reihe().X},
       y_{reihe().Y},
-      punkte_(reihe(), x_.daten, y_.daten, Masssystem()) {
+      punkte_(reihe(), x_.daten, y_.daten, Masssystem()),
+      fehlerFrage_(QStringLiteral("FormAdaptFehlerG"), umgebung.zyklus.dictionary,
+                   umgebung.zyklus.system.Masssystem, this) {
   setObjectName(QStringLiteral("FormGeradheit"));
   tastenAnlegen(QStringLiteral("tbrGeradheit"), Tasten);
   tasten().setDense();
@@ -75,6 +78,11 @@ FormGeradheit::FormGeradheit(const GeradUmgebung& umgebung, QWidget* parent)
   menusAnlegen();
   beschriften();
   zmmod(false);
+  p_.erfassung.setAdaptFehlerFrage(&fehlerFrage_);
+}
+
+FormGeradheit::~FormGeradheit() {
+  p_.erfassung.setAdaptFehlerFrage(nullptr);
 }
 
 // ---- Building ----
@@ -98,7 +106,12 @@ void FormGeradheit::menusAnlegen() {
       "M_Gitter", 7192, [this] { M_Gitter(); }, nullptr);
   M_Gitter_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_G));
   ansicht->addSeparator();
-  punktListenEintrag(ansicht, *liste_);
+  punktListenEintrag(ansicht, [this](bool an) {
+    unten_->setListWanted(an);
+    konvergenzZeigen();
+  });
+  M_Konvergenz_ = schalter(
+      "M_Konvergenz", 7616, [this] { M_Konvergenz(M_Konvergenz_->isChecked()); }, nullptr);
 
   verbindungsMenu();
   extrasUndHilfeMenu();
@@ -110,6 +123,9 @@ void FormGeradheit::layoutAnlegen() {
     PunktWechseln(reihe().Linie, nummer - reihe().Linie.AktMP);
     neuZeichnen(false);
   };
+  konvergenz_ = new ConvergenceView(bildAblage(), mitte());
+  konvergenz_->onClosed = [this] { M_Konvergenz(false); };
+  unten_ = new ListPane(liste_, konvergenz_, mitte());
   panels_ = new LinePanels(&kopf(), mitte());
   panels_->onZ = [this](const std::string& text) { zEingabe(text); };
 
@@ -121,7 +137,7 @@ void FormGeradheit::layoutAnlegen() {
   bilder->addWidget(bildAnlegen(QStringLiteral("Y"), y_), 1);
   wertfelder = panels_->werte() + QVector<ValuePanel*>{x_.bild->wert(), y_.bild->wert()};
 
-  mitteAnordnen(*links, 62, *panels_, *liste_);
+  mitteAnordnen(*links, 62, *panels_, *unten_);
   liste_->setFocus();
 }
 
@@ -156,6 +172,7 @@ void FormGeradheit::beschriften() {
   punkte_.setHeadings({dicText(3066), QStringLiteral("Z ") + (inch ? QStringLiteral("[in]") : einheit),
                        QStringLiteral("X ") + einheit, QStringLiteral("Y ") + einheit});
   liste_->setAccessibleName(dicText(7154));
+  konvergenz_->setTexte(dictionary());
   panels_->setTexte(dictionary(), einheit);
   x_.bild->setTexte(dictionary(), einheit);
   y_.bild->setTexte(dictionary(), einheit);
@@ -190,6 +207,8 @@ void FormGeradheit::einstellungenZeigen() {
     tasten().setPressed(QString::fromLatin1(StatistikTasten.at(i)), an.at(i));
   statistikTasten(an[0] || an[1] || an[2] || an[3] || tasten().isPressed(QStringLiteral("STATISTIK")));
   M_Gitter_->setChecked(static_cast<bool>(Info().Gitter));
+  M_Konvergenz_->setChecked(flagAusText(p_.zyklus.profil.wert(KonvergenzAnzeige)));
+  unten_->setViewWanted(M_Konvergenz_->isChecked());
   numZoomZeigen();
   titelZeigen();
   werteAnpassen(Info().NKStellen);
@@ -237,6 +256,16 @@ void FormGeradheit::numZoomZeigen() {
   y_.bild->setAnsicht(!x, y);
 }
 
+void FormGeradheit::konvergenzZeigen() {
+  konvergenz_->zeige(p_.erfassung.adaptMessung(), reihe().Adapt, Masssystem());
+}
+
+void FormGeradheit::zeigeAdaptProgress(const std::optional<Fortschritt>& fortschritt) {
+  DatenFenster::zeigeAdaptProgress(fortschritt);
+  unten_->setSampling(fortschritt.has_value());
+  konvergenzZeigen();
+}
+
 void FormGeradheit::rahmenVerwerfen() {
   reihe().X.BereichAlt = 0;
   reihe().Y.BereichAlt = 0;
@@ -250,6 +279,7 @@ void FormGeradheit::neuZeichnen(bool geaendert) {
   achseZeigen(y_, texte.YName);
   panels_->zeige(texte, x_.daten.texte, y_.daten.texte);
   liste_->follow();
+  unten_->setAdaptive(p_.erfassung.AutoAdapt());
   const std::string bild(p_.erfassung.einzelBild());
   if (std::exchange(einzelBild_, bild) != bild) tasten().setPicture(QStringLiteral("XYMP1"), qText(bild));
 }
@@ -337,6 +367,13 @@ void FormGeradheit::M_Gitter() {
   M_Gitter_->setChecked(static_cast<bool>(Info().Gitter));
   rahmenVerwerfen();
   neuZeichnen(false);
+}
+
+void FormGeradheit::M_Konvergenz(bool an) {
+  p_.zyklus.profil.schreiben(KonvergenzAnzeige, an ? "-1" : "0");
+  M_Konvergenz_->setChecked(an);
+  unten_->setViewWanted(an);
+  konvergenzZeigen();
 }
 
 // ---- Points moved along the line ----

@@ -12,8 +12,11 @@
 #include "straightness/formgera.h"
 #include "straightness/straightness_file.h"
 #include "straightness/ui/axis_area.h"
+#include "straightness/ui/convergence_view.h"
+#include "straightness/ui/form_adapt_fehler.h"
 #include "straightness/ui/line_panels.h"
 #include "straightness/ui/line_table_model.h"
+#include "straightness/ui/list_pane.h"
 
 namespace korvin {
 
@@ -34,11 +37,13 @@ class FormGeradheit : public DatenFenster {
   Q_OBJECT
  public:
   explicit FormGeradheit(const GeradUmgebung& umgebung, QWidget* parent = nullptr);
+  ~FormGeradheit() override;
 
  protected:
   void ersteAktivierung() override;
   void taste(const QString& key, bool gedrueckt) override;
   void neuZeichnen(bool geaendert) override;
+  void zeigeAdaptProgress(const std::optional<Fortschritt>& fortschritt) override;
   Messdaten& daten() override { return daten_; }
   DateiBefehle& befehle() override { return befehle_; }
   void datenZeigen() override;
@@ -63,12 +68,14 @@ class FormGeradheit : public DatenFenster {
   void statistikTasten(bool sichtbar);
   void richtungZeigen();
   void numZoomZeigen();
+  void konvergenzZeigen();
   void achseZeigen(Achse& achse, const std::string& name);
 
   bool auswertungsTaste(const QString& key);
   bool anzeigeTaste(const QString& key, bool gedrueckt);
   void M_NumZoom(Achse& achse);
   void M_Gitter();
+  void M_Konvergenz(bool an);
 
   // ---- Points moved along the line ----
 
@@ -91,11 +98,15 @@ class FormGeradheit : public DatenFenster {
   Achse x_;
   Achse y_;
   LineTableModel punkte_;
+  QtAdaptFehlerFrage fehlerFrage_;
   PointList* liste_ = nullptr;
+  ConvergenceView* konvergenz_ = nullptr;
+  ListPane* unten_ = nullptr;
   LinePanels* panels_ = nullptr;
   QAction* M_xNumZoom_ = nullptr;
   QAction* M_yNumZoom_ = nullptr;
   QAction* M_Gitter_ = nullptr;
+  QAction* M_Konvergenz_ = nullptr;
   std::optional<std::int16_t> gehalten_;  ///< the point that the mouse holds
   std::string einzelBild_;                ///< picture that the key "XYMP1" has
   bool Anzeige_ = false;
