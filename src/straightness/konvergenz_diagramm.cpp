@@ -134,7 +134,8 @@ void zeitmarkenZeichnen(DrawingSurface& surface, const KonvergenzRahmen& rahmen)
 void randZeichnen(DrawingSurface& surface, const KonvergenzRahmen& rahmen) {
   const double unten = std::log10(rahmen.unten);
   const double oben = std::log10(rahmen.oben);
-  const std::array<DataPoint, 3> rand = {DataPoint{0, oben}, DataPoint{0, unten}, DataPoint{rahmen.ende, unten}};
+  const std::array<DataPoint, 3> rand = {DataPoint{0, oben}, DataPoint{0, unten},
+                                         DataPoint{rahmen.ende, unten}};
   surface.polyline(rand, {FarbeKonvergenzZeit});
 }
 
@@ -186,9 +187,11 @@ void legendeZeichnen(DrawingSurface& surface, const KonvergenzRahmen& rahmen,
                      const KonvergenzInhalt& inhalt) {
   std::vector<Eintrag> eintraege = legende(rahmen, inhalt);
   const DataSize zeichen = surface.textSize("0", {});
-  const double strich = Linienlaenge * zeichen.height * surface.lineWidth().width / surface.lineWidth().height;
+  const double strich =
+      Linienlaenge * zeichen.height * surface.lineWidth().width / surface.lineWidth().height;
+  const double luecke = 0.75 * zeichen.width;
   const auto breite = [&](const Eintrag& eintrag) {
-    return strich + zeichen.width + surface.textSize(eintrag.breitester, {}).width;
+    return strich + luecke + surface.textSize(eintrag.breitester, {}).width;
   };
   const auto ganze = [&] {
     double summe = 2 * zeichen.width * static_cast<double>(eintraege.size() - 1);
@@ -201,7 +204,7 @@ void legendeZeichnen(DrawingSurface& surface, const KonvergenzRahmen& rahmen,
   double x = 0;
   for (const Eintrag& eintrag : eintraege) {
     surface.line({x, mitte}, {x + strich * groesse, mitte}, eintrag.strich);
-    surface.text({x + (strich + zeichen.width / 2) * groesse, mitte}, eintrag.text, {Textfarbe, groesse},
+    surface.text({x + (strich + luecke) * groesse, mitte}, eintrag.text, {Textfarbe, groesse},
                  {HorizontalAnchor::left, VerticalAnchor::middle});
     x += (breite(eintrag) + 2 * zeichen.width) * groesse;
   }
@@ -210,7 +213,8 @@ void legendeZeichnen(DrawingSurface& surface, const KonvergenzRahmen& rahmen,
 }  // namespace
 
 std::vector<double> konvergenzHoehen(double unten, double oben, double abstand) {
-  const std::vector<double> stufen = std::log10(2) >= abstand ? std::vector<double>{1, 2, 5} : std::vector<double>{1};
+  const std::vector<double> stufen =
+      std::log10(2) >= abstand ? std::vector<double>{1, 2, 5} : std::vector<double>{1};
   constexpr double gerundet = 1e-9;  // the bounds are numbers of the same series
   std::vector<double> werte;
   for (double zehner = std::floor(std::log10(unten)); zehner <= std::ceil(std::log10(oben)); ++zehner) {

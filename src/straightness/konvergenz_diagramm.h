@@ -18,9 +18,9 @@ inline constexpr Farbe FarbeKonvergenzZeit = 0x606060;  ///< marks of the times
 
 /// What stands still from sample to sample. Lengths in the unit shown, times in seconds since the start.
 struct KonvergenzRahmen {
-  double unten = 0.001;  ///< lowest half width, above 0
-  double oben = 1;       ///< highest half width, above `unten`
-  double ende = 1;       ///< end of the time axis, above 0
+  double unten = 0.001;                 ///< lowest half width, above 0
+  double oben = 1;                      ///< highest half width, above `unten`
+  double ende = 1;                      ///< end of the time axis, above 0
   std::array<double, 2> genauigkeit{};  ///< of X and Y, what is required; 0: nothing
   double MinEnde = 0;
   double MaxEnde = 0;
@@ -36,10 +36,10 @@ struct KonvergenzInhalt {
   std::string muster;                    ///< of their numbers in the legend, "0.0000"
 };
 
-/// The diagram of an adaptive point: half widths of the confidence interval upward on a logarithmic axis, time
-/// to the right, the requirement as dashed lines, the least and the longest time as marks above the plot. The
-/// legend lies below the plot. Data coordinates are seconds and decimal logarithms of the half widths.
-/// Evaluates nothing.
+/// The diagram of an adaptive point: half widths of the confidence interval upward on a logarithmic axis,
+/// time to the right, the requirement as dashed lines, the least and the longest time as marks above the
+/// plot. The legend lies below the plot. Data coordinates are seconds and decimal logarithms of the half
+/// widths. Evaluates nothing.
 
 /// Clears the picture and draws grid, lines, marks and labels. Sets the window of `surface`; its margins
 /// follow the size of the texts.

@@ -75,6 +75,7 @@ void Messfenster::aufbauen() {
   zeile->addWidget(AdaptProgress_);
   zeile->addSpacing(scaled(12));
   zeile->addWidget(adaptZeile_);
+  zeile->addSpacing(scaled(12));
   zeile->addWidget(serviceZeile_, 1);
   auto* spalte = new QVBoxLayout(grund);
   spalte->setContentsMargins(scaled(10), scaled(10), scaled(10), scaled(6));

@@ -11,8 +11,8 @@
 
 namespace korvin {
 
-/// The convergence diagram of an adaptive point on the screen, `PictureKonvergenz`. Between two changes of its
-/// ranges only the curves and the legend are drawn.
+/// The convergence diagram of an adaptive point on the screen, `PictureKonvergenz`. Between two changes of
+/// its ranges only the curves and the legend are drawn.
 class PictureKonvergenz : public PictureWidget {
   Q_OBJECT
  public:

@@ -106,7 +106,8 @@ void FormAdaptFehler::achsenZeile(QGridLayout& grid, int zeile, int index, const
 QWidget* FormAdaptFehler::knoepfe(bool moeglich) {
   auto* leiste = new QDialogButtonBox(this);
   const auto knopf = [&](int index, QDialogButtonBox::ButtonRole rolle) {
-    QPushButton* button = leiste->addButton(qText(texte_.CmdAdaptCont.at(static_cast<std::size_t>(index))), rolle);
+    QPushButton* button =
+        leiste->addButton(qText(texte_.CmdAdaptCont.at(static_cast<std::size_t>(index))), rolle);
     button->setObjectName(QStringLiteral("CmdAdaptCont(%1)").arg(index));
     button->setAutoDefault(false);
     return button;

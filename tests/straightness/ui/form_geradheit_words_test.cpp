@@ -65,6 +65,20 @@ TEST_P(LineWords, NothingIsCutOff) {
   expectLabelsFit(*form);
 }
 
+TEST_P(LineWords, NothingIsCutOffDuringAnAdaptivePoint) {
+  world.profil.ProfilSchreiben("", "MessInfo_G", "AutoAdapt", "-1");
+  show();
+  click("XYMP1");
+  run(4);
+  ASSERT_TRUE(shown("AdaptProgress"));
+  ASSERT_TRUE(shown("FrmKonvergenz"));
+  EXPECT_EQ(form->size(), QSize(1024, 768));
+  EXPECT_LE(form->minimumSizeHint().width(), 1024);
+  expectLabelsFit(*form);
+  const QLabel* line = label("lblMSCommInput(1)");
+  EXPECT_LE(line->sizeHint().width(), line->width()) << "the figures of the point are not cut";
+}
+
 TEST_P(LineWords, AllKeysStandInTheBarAndTellWhatTheyDo) {
   showAll();
   for (QAction* action : bar().actions()) {
