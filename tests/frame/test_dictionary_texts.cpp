@@ -147,7 +147,7 @@ const std::vector<std::vector<std::int16_t>> menus = {
     {7185, 7186, 7187, 7188},                    // measuring
     {7191, 7192, 7370},                          // M_Panel
     {7185, 7530, 7531},                          // measuring of a line
-    {7532, 7533, 7192, 7370},                    // M_Panel of FormGeradheit
+    {7532, 7533, 7192, 7370, 7616},              // M_Panel of FormGeradheit
     {7101, 7102},                                // link
 };
 
