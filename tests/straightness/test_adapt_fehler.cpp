@@ -67,6 +67,8 @@ TEST_F(AdaptFehlerTest, ProposalOfOneHundredSecondsIsTooLong) {
 
 TEST_F(AdaptFehlerTest, ProposalWithoutSpreadIsOneSecond) {
   EXPECT_EQ(failed(0, 0).Vorschlag(), 1);
+  aims.X_Genauigkeit = 0;
+  EXPECT_EQ(failed(0, 0).Vorschlag(), 1);
 }
 
 TEST_F(AdaptFehlerTest, ProposalBeyondAllNumbersIsTooLong) {

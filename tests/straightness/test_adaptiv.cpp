@@ -173,13 +173,16 @@ TEST_F(AdaptivRegeln, BothAxesHaveToReachTheirOwnAccuracy) {
 TEST_F(AdaptivRegeln, HalfWidthOfExactlyTheAccuracyIsNotBelowIt) {
   start();
   sample(0, 0, 1);
-  ASSERT_EQ(sample(0.5, 0, 10.5), AdaptErgebnis::weiter);
+  ASSERT_EQ(sample(0.5, 0.5, 10.5), AdaptErgebnis::weiter);
   const double reached = point.zustand().AdaptKX;
-  for (const bool below : {false, true}) {
-    start();
-    aims.X_Genauigkeit = below ? std::nextafter(reached, 2) : reached;
-    sample(0, 0, 1);
-    EXPECT_EQ(sample(0.5, 0, 10.5) == AdaptErgebnis::angenommen, below);
+  for (double AdaptVorgaben::*accuracy : {&AdaptVorgaben::X_Genauigkeit, &AdaptVorgaben::Y_Genauigkeit}) {
+    for (const bool below : {false, true}) {
+      aims.X_Genauigkeit = aims.Y_Genauigkeit = 2;
+      aims.*accuracy = below ? std::nextafter(reached, 2) : reached;
+      start();
+      sample(0, 0, 1);
+      EXPECT_EQ(sample(0.5, 0.5, 10.5) == AdaptErgebnis::angenommen, below);
+    }
   }
 }
 
@@ -240,19 +243,22 @@ TEST_F(AdaptivRegeln, OneAxisTwentyPercentTooBadFails) {
 }
 
 TEST_F(AdaptivRegeln, ExactlyTwentyPercentIsTooBad) {
-  // 0.5 · 1.2 and 0.6 differ by no more than the last digit, so the limit is tried from both sides.
   start();
   sample(0, 0, 1);
-  sample(0.5, 0, 12.5);
+  sample(0.5, 0.5, 12.5);
   const double reached = point.zustand().AdaptKX;
-  double accuracy = reached / 1.2;
-  while (accuracy * 1.2 > reached) accuracy = std::nextafter(accuracy, 0);
-  while (std::nextafter(accuracy, 1) * 1.2 <= reached) accuracy = std::nextafter(accuracy, 1);
-  for (const bool above : {false, true}) {
-    aims.X_Genauigkeit = above ? std::nextafter(accuracy, 1) : accuracy;
-    start();
-    sample(0, 0, 1);
-    EXPECT_EQ(sample(0.5, 0, 12.5), above ? AdaptErgebnis::weiter : AdaptErgebnis::verfehlt);
+  // The largest accuracy whose 1.2 times are not above what is reached.
+  double limit = reached / 1.2;
+  while (limit * 1.2 > reached) limit = std::nextafter(limit, 0);
+  while (std::nextafter(limit, 1) * 1.2 <= reached) limit = std::nextafter(limit, 1);
+  for (double AdaptVorgaben::*accuracy : {&AdaptVorgaben::X_Genauigkeit, &AdaptVorgaben::Y_Genauigkeit}) {
+    for (const bool above : {false, true}) {
+      aims.X_Genauigkeit = aims.Y_Genauigkeit = 2;
+      aims.*accuracy = above ? std::nextafter(limit, 1) : limit;
+      start();
+      sample(0, 0, 1);
+      EXPECT_EQ(sample(0.5, 0.5, 12.5), above ? AdaptErgebnis::weiter : AdaptErgebnis::verfehlt);
+    }
   }
 }
 
@@ -304,6 +310,8 @@ TEST_F(AdaptivRegeln, LeastTimeEqualToTheLongestStillAccepts) {
 TEST_F(AdaptivRegeln, StartForgetsTheSamplesOfBefore) {
   start();
   early(5, 1, 1);
+  ASSERT_EQ(point.ProgressWert(), 5);
+  point.aufgeben();
   begun = Noon + 100;
   point.starten(aims, begun);
   const AdaptZustand& z = point.zustand();
@@ -315,6 +323,8 @@ TEST_F(AdaptivRegeln, StartForgetsTheSamplesOfBefore) {
   EXPECT_EQ(z.AdaptMinEnde, Noon + 110);
   EXPECT_EQ(z.AdaptMaxEnde, Noon + 112);
   EXPECT_EQ(z.AdaptLaufzeit, 0);
+  EXPECT_FALSE(z.AdaptWeiter);
+  EXPECT_EQ(point.ProgressWert(), 0);
   EXPECT_EQ(point.MittelX(), Leerwert);
 }
 
@@ -372,6 +382,7 @@ TEST_F(AdaptivRegeln, CountingAnewKeepsThePointAndEmptiesIt) {
   start();
   early(10, 1, 1);
   aims.MessZeitMax = 30;
+  point.aufgeben();
   point.neuZaehlen(aims, Noon + 20);
   const AdaptZustand& z = point.zustand();
   EXPECT_EQ(z.AdaptN, 0);
