@@ -1,24 +1,19 @@
 // Transactions through KameraAbfrage and the real serial port on a pseudo-terminal, against a bare write and
 // read on the same terminal, in alternating batches of one run; and the processor time of waiting for a slow
 // head. A thread plays a head that answers at once.
-#include <fcntl.h>
-#include <pty.h>
 #include <sys/resource.h>
-#include <termios.h>
 #include <unistd.h>
 
 #include <QApplication>
 #include <algorithm>
 #include <array>
-#include <atomic>
 #include <chrono>
 #include <cstdio>
-#include <cstdlib>
 #include <functional>
 #include <string>
-#include <thread>
 #include <vector>
 
+#include "answering_head.h"
 #include "frame/ui/qt_event_pump.h"
 #include "frame/ui/qt_random_source.h"
 #include "link/kor_com.h"
@@ -41,71 +36,6 @@ class NoMessages : public MessagePort {
  public:
   MessageAnswer show(const Meldung&, MessageIcon, MessageButtons) override { return MessageAnswer::ok; }
   void beep() override {}
-};
-
-[[noreturn]] void fail(const char* what) {
-  std::perror(what);
-  std::exit(1);
-}
-
-std::string answerFrame() {
-  const std::string columns = "1-K-j 250123 249877 00000 85";
-  return RahmenStart + columns + PruefzeichenBilden(columns, Modul223) + RahmenEnde;
-}
-
-/// A head at the other end of a pseudo-terminal that answers every question at once, or not at all.
-class Responder {
- public:
-  Responder() {
-    int slave = -1;
-    std::array<char, 256> name{};
-    if (openpty(&master_, &slave, name.data(), nullptr, nullptr) != 0) fail("openpty");
-    path_ = name.data();
-    slave_ = slave;
-    makeRaw();
-    thread_ = std::thread([this] { serve(); });
-  }
-  ~Responder() {
-    silent = true;
-    over_ = true;
-    // A last byte from the other end wakes the thread.
-    if (::write(slave_, "\x1B", 1) != 1) fail("write");
-    thread_.join();
-    ::close(slave_);
-    ::close(master_);
-  }
-  Responder(const Responder&) = delete;
-  Responder& operator=(const Responder&) = delete;
-
-  const std::string& path() const { return path_; }
-  int slave() const { return slave_; }
-  /// The serial port leaves reads that return at once; the bare client sleeps in its read.
-  void makeRaw() const {
-    termios settings{};
-    tcgetattr(slave_, &settings);
-    cfmakeraw(&settings);
-    tcsetattr(slave_, TCSANOW, &settings);
-  }
-
-  std::atomic<bool> silent = false;
-
- private:
-  void serve() {
-    const std::string answer = answerFrame();
-    std::array<char, 256> buffer{};
-    while (!over_) {
-      const ssize_t count = ::read(master_, buffer.data(), buffer.size());
-      if (count <= 0) return;
-      if (silent || buffer.at(static_cast<std::size_t>(count - 1)) != RahmenEnde) continue;
-      if (::write(master_, answer.data(), answer.size()) < 0) return;
-    }
-  }
-
-  int master_ = -1;
-  int slave_ = -1;
-  std::string path_;
-  std::atomic<bool> over_ = false;
-  std::thread thread_;
 };
 
 double median(std::vector<double> values) {
@@ -183,7 +113,7 @@ class LinkBench {
   }
 
   void waiting() {
-    responder_.silent = true;
+    head_.silent = true;
     open();
     const double before = processorSeconds();
     if (korCom_.KameraWarten(port_, slowSeconds, answer_)) fail("a silent head answered");
@@ -205,14 +135,14 @@ class LinkBench {
   }
 
   void bareBatch(Times& times) {
-    responder_.makeRaw();
+    head_.makeRaw();
     const std::string request = rahmenBilden(question, Modul223);
     times.batch([&] {
       std::array<char, 256> buffer{};
-      if (::write(responder_.slave(), request.data(), request.size()) < 0) fail("write");
+      if (::write(head_.slave(), request.data(), request.size()) < 0) fail("write");
       ssize_t count = 0;
       do {
-        count = ::read(responder_.slave(), buffer.data(), buffer.size());
+        count = ::read(head_.slave(), buffer.data(), buffer.size());
         if (count <= 0) fail("read");
       } while (buffer.at(static_cast<std::size_t>(count - 1)) != RahmenEnde);
     });
@@ -234,14 +164,14 @@ class LinkBench {
            static_cast<double>(usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) * 1e-6;
   }
 
-  Responder responder_;
+  AnsweringHead head_{[frame = answerFrame(250123, 249877)] { return frame; }};
   SystemClock clock_;
   QtEventPump pump_;
   QtRandomSource random_;
   NoMessages messages_;
   KorCom korCom_{clock_, pump_, random_, messages_};
   KameraAntwort answer_;
-  QtMSComm port_{[this](int) { return QString::fromStdString(responder_.path()); }};
+  QtMSComm port_{[this](int) { return QString::fromStdString(head_.path()); }};
   bool withServiceLine_ = false;
   std::string serviceLine_;
 };
