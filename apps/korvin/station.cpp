@@ -53,7 +53,11 @@ Station::Station(const FolderEnvironment& environment, Appearance appearance)
       geradErfassung_({messages_, dictionary_, profil_, messplatz_.system, formgera_}),
       geradDateien_(
           {fileSystem_, messages_, messplatz_.meldung, dictionary_, profil_, messplatz_.system, formgera_}),
-      geradStarter_(windowStart({}, {}), formgera_, geradErfassung_, geradDateien_),
+      geradStarter_(
+          windowStart([this](QWidget& fenster,
+                             const auto& ausserhalb) { einrichtenGerad(fenster, &offeneReihe_, ausserhalb); },
+                      {}),
+          formgera_, geradErfassung_, geradDateien_),
       verteilung_(messplatz_.system.Messart, dictionary_, messages_, messplatz_.meldung),
       programmstart_(messplatz_.system, messplatz_.meldung, settings_, anzeige_, dictionary_, messages_),
       hilfe_((folders_.program / helpFile).string(), [this] { return int{anzeige_.Sprache()}; }, dictionary_,
@@ -65,6 +69,7 @@ Station::Station(const FolderEnvironment& environment, Appearance appearance)
   positionStarter_.setFenster(&window_);
   geradStarter_.setFenster(&window_);
   window_.grundeinstellungen[MessartPosition] = [this] { einrichtenPosition(window_, nullptr, {}); };
+  window_.grundeinstellungen[MessartGeradheit] = [this] { einrichtenGerad(window_, nullptr, {}); };
   window_.beiErsterAktivierung = [this] { return kopfsuche_.suchen(window_); };
   window_.linkZeile = [this] { return kopfsuche_.zeile(); };
   window_.beiEntladen = [this] { unload(); };
@@ -112,13 +117,18 @@ bool Station::start() {
 
 void Station::einrichtenPosition(QWidget& fenster, OffeneMessung* messung,
                                  const std::function<void(std::function<void()>)>& ausserhalb) {
-  FormOptionsO({{dictionary_, messages_, messplatz_.meldung, profil_, messplatz_.system},
-                clock_,
-                timers_,
-                [this] { hilfe_.zeigen(); },
-                ausserhalb},
-               messung, &fenster)
-      .ausfuehren();
+  FormOptionsO({settings(ausserhalb), clock_, timers_}, messung, &fenster).ausfuehren();
+}
+
+void Station::einrichtenGerad(QWidget& fenster, OffeneReihe* reihe,
+                              const std::function<void(std::function<void()>)>& ausserhalb) {
+  FormOptionsG(settings(ausserhalb), reihe, &fenster).ausfuehren();
+}
+
+SettingsDialogUmgebung Station::settings(const std::function<void(std::function<void()>)>& ausserhalb) {
+  return {{dictionary_, messages_, messplatz_.meldung, profil_, messplatz_.system},
+          [this] { hilfe_.zeigen(); },
+          ausserhalb};
 }
 
 void Station::unload() {

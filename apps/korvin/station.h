@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 
+#include "dialogs/ui/form_options_g.h"
 #include "dialogs/ui/form_options_o.h"
 #include "frame/clock.h"
 #include "frame/datei_verteilung.h"
@@ -65,9 +66,13 @@ class Station {
   FensterStart windowStart(EinrichtenDialog einrichten, std::function<void(QWidget*)> drucken);
   AusgabeUmgebung reports();
   QtMSComm::PortFinder portFinder() const;
-  /// `FormOptionsO` over `fenster`; `messung` and `ausserhalb` if the measuring window asks for it.
+  /// The settings dialogs over `fenster`; `messung`, `reihe` and `ausserhalb` if the measuring window asks
+  /// for them.
   void einrichtenPosition(QWidget& fenster, OffeneMessung* messung,
                           const std::function<void(std::function<void()>)>& ausserhalb);
+  void einrichtenGerad(QWidget& fenster, OffeneReihe* reihe,
+                       const std::function<void(std::function<void()>)>& ausserhalb);
+  SettingsDialogUmgebung settings(const std::function<void(std::function<void()>)>& ausserhalb);
   void unload();
 
   Folders folders_;
@@ -110,6 +115,7 @@ class Station {
   PositionStarter positionStarter_;
   FORMGERA formgera_;
   GeradErfassung geradErfassung_;
+  OffeneReihe offeneReihe_{formgera_, geradErfassung_};
   GeradDateien geradDateien_;
   GeradStarter geradStarter_;
   DateiVerteilung verteilung_;

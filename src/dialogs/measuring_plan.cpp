@@ -1,10 +1,10 @@
 #include "dialogs/measuring_plan.h"
 
-#include <cmath>
 #include <cstdint>
 #include <tuple>
 #include <utility>
 
+#include "dialogs/entered_number.h"
 #include "frame/date_format.h"
 #include "frame/number_format.h"
 #include "frame/zahl_text.h"
@@ -13,14 +13,9 @@ namespace korvin {
 namespace {
 
 constexpr std::int16_t ohneGrenze = -1;
-constexpr std::int16_t TextGiltAls = 7480;
 constexpr std::int16_t TextKeinDatum = 7481;
 constexpr std::int16_t TextStartSofort = 7482;
 constexpr std::int16_t TextStopSofort = 7483;
-
-bool istLeerText(std::string_view text) {
-  return text.find_first_not_of(" \t") == std::string_view::npos;
-}
 
 /// Date and time of a moment.
 std::pair<std::string, std::string> momentTexte(double moment) {
@@ -32,32 +27,6 @@ void momentSetzen(const std::string& datum, const std::string& zeit, Flagge& akt
   const bool unveraendert = aktiv && std::pair(datum, zeit) == momentTexte(moment);
   aktiv = !istLeerText(zeit);
   if (aktiv && !unveraendert) moment = parseDate(datum).value_or(0) + parseTime(zeit).value_or(0);
-}
-
-/// A number too large to hold would make the saved file one that can't be read.
-double endlicheZahl(const std::string& text) {
-  const double zahl = zahlAusText(text);
-  return std::isfinite(zahl) ? zahl : 0;
-}
-
-/// True if `text` is nothing but a number in digits, with a sign and a decimal mark at most, or blank.
-bool istSchlichteZahl(std::string_view text) {
-  constexpr std::string_view luecken = " \t";
-  constexpr std::string_view ziffern = "0123456789";
-  if (istLeerText(text)) return true;
-  text.remove_prefix(text.find_first_not_of(luecken));
-  text = text.substr(0, text.find_last_not_of(luecken) + 1);
-  if (text.starts_with('+') || text.starts_with('-')) text.remove_prefix(1);
-  const std::size_t marke = text.find_first_not_of(ziffern);
-  if (marke == std::string_view::npos) return !text.empty();
-  const bool mitMarke = text[marke] == '.' || text[marke] == ',';
-  return mitMarke && text.size() > 1 && text.find_first_not_of(ziffern, marke + 1) == std::string_view::npos;
-}
-
-/// Tells how `text` is read if that is not what it looks like.
-std::string zahlHinweis(const std::string& text, double gelesen, Dictionary& dictionary) {
-  if (istSchlichteZahl(text) && zahlAusText(text) == gelesen) return {};
-  return dictionary.DicText(TextGiltAls) + ": " + formatGeneral(gelesen);
 }
 
 std::string momentHinweis(const std::string& datum, const std::string& zeit, std::int16_t sofort,

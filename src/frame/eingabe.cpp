@@ -41,23 +41,37 @@ std::string limitText(double limit, std::string_view muster, int side) {
 
 }  // namespace
 
-bool Eingabe::zahl(std::string& text, std::string_view muster, double minimum, double maximum,
-                   bool leerErlaubt) {
+ZahlGrenzen laengeGrenzen(std::string_view muster, double minimum, double maximum, bool leerErlaubt,
+                          int Masssystem) {
+  const double unit = Masssystem == 1 ? mmPerInch : 1;
+  return {muster, minimum / unit, maximum / unit, leerErlaubt};
+}
+
+ZahlGrenzen genauigkeitGrenzen(int Masssystem) {
+  constexpr double limit = 10;
+  return Masssystem == 1 ? ZahlGrenzen{"0.00", 0, limit / mmPerMil, true}
+                         : ZahlGrenzen{"0.000", 0, limit, true};
+}
+
+std::pair<std::string, std::string> grenzTexte(const ZahlGrenzen& grenzen) {
+  return {limitText(grenzen.minimum, grenzen.muster, 1), limitText(grenzen.maximum, grenzen.muster, -1)};
+}
+
+bool Eingabe::zahl(std::string& text, const ZahlGrenzen& grenzen) {
   const bool blank = isBlank(text);
-  if (blank && leerErlaubt) return true;
+  if (blank && grenzen.leerErlaubt) return true;
   const double value = zahlAusText(text);
-  if (!blank && value >= minimum && value <= maximum) {
-    text = formatNumber(value, muster);
+  if (!blank && value >= grenzen.minimum && value <= grenzen.maximum) {
+    text = formatNumber(value, grenzen.muster);
     return true;
   }
-  melden(muster, minimum, maximum, leerErlaubt);
+  melden(grenzen);
   return false;
 }
 
 bool Eingabe::laenge(std::string& text, std::string_view muster, double minimum, double maximum,
                      bool leerErlaubt, int Masssystem) {
-  const double unit = Masssystem == 1 ? mmPerInch : 1;
-  return zahl(text, muster, minimum / unit, maximum / unit, leerErlaubt);
+  return zahl(text, laengeGrenzen(muster, minimum, maximum, leerErlaubt, Masssystem));
 }
 
 bool Eingabe::ganzzahl(std::string& text, int minimum, int maximum, bool leerErlaubt) {
@@ -68,16 +82,14 @@ bool Eingabe::ganzzahl(std::string& text, int minimum, int maximum, bool leerErl
 }
 
 bool Eingabe::genauigkeit(std::string& text, int Masssystem) {
-  constexpr double limit = 10;
-  return Masssystem == 1 ? zahl(text, "0.00", 0, limit / mmPerMil, true)
-                         : zahl(text, "0.000", 0, limit, true);
+  return zahl(text, genauigkeitGrenzen(Masssystem));
 }
 
-void Eingabe::melden(std::string_view muster, double minimum, double maximum, bool leerErlaubt) {
+void Eingabe::melden(const ZahlGrenzen& grenzen) {
+  const auto [von, bis] = grenzTexte(grenzen);
   meldung_.MsgTitel = dictionary_.DicText(titleText) + ":";
-  meldung_.MsgText = leerErlaubt ? "" : dictionary_.DicText(notBlankText);
-  meldung_.MsgText += dictionary_.DicText(rangeText) + NeueZeile + limitText(minimum, muster, 1) + " .." +
-                      limitText(maximum, muster, -1) + ": ";
+  meldung_.MsgText = grenzen.leerErlaubt ? "" : dictionary_.DicText(notBlankText);
+  meldung_.MsgText += dictionary_.DicText(rangeText) + NeueZeile + von + " .." + bis + ": ";
   messages_.beep();
   messages_.show(meldung_, MessageIcon::warning, MessageButtons::ok);
 }

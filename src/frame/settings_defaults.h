@@ -112,6 +112,45 @@ inline constexpr Einstellung CheckXTabelle{"DruckInfo_G", "CheckXTabelle", "0"};
 inline constexpr Einstellung CheckYTabelle{"DruckInfo_G", "CheckYTabelle", "0"};
 }  // namespace FormGeradheit
 
+/// The settings dialog of straightness measuring.
+namespace FormOptionsG {
+inline constexpr Einstellung PortNr{"KorInfo", "PortNr", "1"};
+inline constexpr Einstellung BaudRate{"KorInfo", "BaudRate", "1"};
+inline constexpr Einstellung FirmaName{"KorInfo", "FirmaName", ""};
+inline constexpr Einstellung PfadMessFile{"KorInfo", "PfadMessFile", ""};
+inline constexpr Einstellung NKStellen{"KorInfo", "NKStellen", "2"};
+inline constexpr Einstellung AsciiDatei{"KorInfo", "AsciiDatei", "0"};
+inline constexpr Einstellung Bezeichnung{"MessInfo_G", "Bezeichnung", "?"};
+inline constexpr Einstellung Bediener{"MessInfo_G", "Bediener", "?"};
+inline constexpr Einstellung Kommentar{"MessInfo_G", "Kommentar", "?"};
+inline constexpr Einstellung AnzMPs{"MessInfo_G", "AnzMPs", "6"};
+/// No default of its own: it shows what a new series would take.
+inline constexpr Einstellung Distanz = FormGeradheit::Distanz;
+inline constexpr Einstellung Filter{"MessInfo_G", "Filter", "2"};
+inline constexpr Einstellung Montage{"MessInfo_G", "Montage", "0"};
+inline constexpr Einstellung BiDi_Messen{"MessInfo_G", "BiDi_Messen", "0"};
+inline constexpr Einstellung AutoAdapt{"MessInfo_G", "AutoAdapt", "0"};
+inline constexpr Einstellung Beta5{"MessInfo_G", "Beta5", "-1"};
+inline constexpr Einstellung Beta1{"MessInfo_G", "Beta1", "0"};
+inline constexpr Einstellung MessZeitMax{"MessInfo_G", "MessZeitMax", "10"};
+inline constexpr Einstellung MessZeitMin{"MessInfo_G", "MessZeitMin", "6"};
+inline constexpr Einstellung X_Genauigkeit{"MessInfo_G", "X_Genauigkeit", "0.01"};
+inline constexpr Einstellung Y_Genauigkeit{"MessInfo_G", "Y_Genauigkeit", "0.01"};
+/// The value that the window reads as `SFak`, under another default.
+inline constexpr Einstellung SFak{"MessInfo_G", "SFAK", "0"};
+inline constexpr Einstellung XGesamt{"Toleranz_G", "XGesamt", ""};
+inline constexpr Einstellung XWertPro{"Toleranz_G", "XWertPro", ""};
+inline constexpr Einstellung XProEinheit{"Toleranz_G", "XProEinheit", ""};
+inline constexpr Einstellung YGesamt{"Toleranz_G", "YGesamt", ""};
+inline constexpr Einstellung YWertPro{"Toleranz_G", "YWertPro", ""};
+inline constexpr Einstellung YProEinheit{"Toleranz_G", "YProEinheit", ""};
+inline constexpr Einstellung ToleranzBezug{"Toleranz_G", "ToleranzBezug", "1"};
+inline constexpr Einstellung CheckXDiagramm{"DruckInfo_G", "CheckXDiagramm", "0"};
+inline constexpr Einstellung CheckYDiagramm{"DruckInfo_G", "CheckYDiagramm", "0"};
+inline constexpr Einstellung CheckXTabelle{"DruckInfo_G", "CheckXTabelle", "0"};
+inline constexpr Einstellung CheckYTabelle{"DruckInfo_G", "CheckYTabelle", "0"};
+}  // namespace FormOptionsG
+
 /// The environment analysis, beside what it reads as `FormPosition`.
 namespace FormUmgebungsAnalyse {
 inline constexpr Einstellung Filter{"MessInfo_G", "Filter", "1"};

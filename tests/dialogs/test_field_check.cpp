@@ -61,8 +61,35 @@ TEST_F(FieldCheck, WithoutACheckEverythingPasses) {
   EXPECT_EQ(pruefer.bereichText(FeldPruefung::keine), "");
 }
 
+TEST_F(FieldCheck, TheLongestTimeFollowsTheLeast) {
+  EXPECT_EQ(messZeitMaxZu("12", "10"), "12");
+  EXPECT_EQ(messZeitMaxZu("12", "12"), "12");
+  EXPECT_EQ(messZeitMaxZu("12", "40"), "40");
+  EXPECT_EQ(messZeitMaxZu("12", ""), "12");
+  EXPECT_EQ(messZeitMaxZu("5", "3"), "5");
+  EXPECT_EQ(messZeitMaxZu("4", "3"), "3") << "no least time";
+}
+
+TEST_F(FieldCheck, TheLongestTimeIsNotBelowTheLeast) {
+  EXPECT_EQ(pruefer.bereichText(FeldPruefung::messZeitMax), "D6014: 5 .. 99");
+  pruefer.setMessZeitMin(20);
+  EXPECT_FALSE(check(FeldPruefung::messZeitMax, "19"));
+  EXPECT_TRUE(check(FeldPruefung::messZeitMax, "20"));
+  pruefer.setMessZeitMin(150);
+  EXPECT_TRUE(check(FeldPruefung::messZeitMax, "99")) << "something always passes";
+}
+
 TEST_F(FieldCheck, TheRangeInShort) {
   EXPECT_EQ(pruefer.bereichText(FeldPruefung::port), "D6014: 1 .. 16");
+  EXPECT_EQ(pruefer.bereichText(FeldPruefung::anzahlPunkte), "D6014: 2 .. 200");
+  EXPECT_EQ(pruefer.bereichText(FeldPruefung::messlaenge), "D6014: 10 .. 50000");
+  EXPECT_EQ(pruefer.bereichText(FeldPruefung::toleranz), "D6014: 0 .. 10");
+  EXPECT_EQ(pruefer.bereichText(FeldPruefung::genauigkeit), "D6014: 0.001 .. 1");
+  EXPECT_EQ(pruefer.bereichText(FeldPruefung::messZeitMin), "D6014: 5 .. 99");
+  Feldpruefer inch{dictionary, messages, meldung, 1};
+  EXPECT_EQ(inch.bereichText(FeldPruefung::messlaenge), "D6014: 0.4 .. 1968.5");
+  EXPECT_EQ(inch.bereichText(FeldPruefung::toleranz), "D6014: 0 .. 393.7");
+  EXPECT_EQ(inch.bereichText(FeldPruefung::genauigkeit), "D6014: 1 .. 1000");
   EXPECT_EQ(pruefer.bereichText(FeldPruefung::zeit), "D6014: 00:00:00 .. 23:59:59");
 }
 

@@ -3,22 +3,11 @@
 #include <gtest/gtest.h>
 
 #include "dialogs/options_o.h"
+#include "ordered_tree.h"
 #include "support/test_clock.h"
-#include "support/test_ports.h"
 
 namespace korvin {
 namespace {
-
-/// Remembers what is written, in its order.
-class OrderedTree : public test::MemorySettingsTree {
- public:
-  bool writeValue(std::string_view path, std::string_view name, const RegWert& value) override {
-    written.push_back(std::string(path.substr(path.rfind('\\') + 1)) + "/" + std::string(name) + "=" +
-                      std::get<std::string>(value));
-    return test::MemorySettingsTree::writeValue(path, name, value);
-  }
-  std::vector<std::string> written;
-};
 
 class OptionsOTest : public testing::Test {
  protected:
@@ -69,7 +58,7 @@ class OptionsOTest : public testing::Test {
   }
   std::string_view filter() { return info().Filter.full(); }
 
-  OrderedTree tree;
+  test::OrderedTree tree;
   Profil profil{tree};
   test::TestDictionary dictionary;
   test::TestMessages messages;

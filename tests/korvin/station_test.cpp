@@ -112,40 +112,55 @@ TEST_F(StationTest, SettingsThatCannotBeMadeEndTheProgramWithAMessage) {
   EXPECT_EQ(activations, 0);
 }
 
-/// Waits for the dialog of the settings and closes it by `button`.
+/// Waits for the settings dialog of this name and closes it by `button`.
 struct SettingsDialog {
   QTimer look;
   QString title;
-  bool planOffered = false;
+  bool measurementOffered = false;  ///< what belongs to a measurement in work can be changed
 
-  explicit SettingsDialog(const QString& button) {
-    look.callOnTimeout([this, button] {
+  SettingsDialog(const char* name, const char* ofMeasurement, const char* button) {
+    look.callOnTimeout([=, this] {
       auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-      if (dialog == nullptr || dialog->objectName() != QLatin1String("FormOptionsO")) return;
+      if (dialog == nullptr || dialog->objectName() != QLatin1String(name)) return;
       title = dialog->windowTitle();
-      planOffered = dialog->findChild<QCheckBox*>(QStringLiteral("CheckAutoOn"))->isEnabled();
-      dialog->findChild<QPushButton*>(button)->click();
+      measurementOffered = dialog->findChild<QCheckBox*>(QLatin1String(ofMeasurement))->isEnabled();
+      dialog->findChild<QPushButton*>(QLatin1String(button))->click();
     });
     look.start(0);
   }
 };
 
-TEST_F(StationTest, TheDefaultSettingsOfPositionOpenFromTheMenu) {
+/// A measuring kind with its settings dialog.
+struct SettingsOfKind {
+  const char* entry;          ///< of the main window's menu, opens the measuring window
+  const char* defaults;       ///< of the main window's menu, opens the dialog
+  const char* window;         ///< the measuring window
+  const char* dialog;         ///< the settings dialog
+  const char* ofMeasurement;  ///< its check box that belongs to a measurement in work
+  const char* title;
+};
+
+class StationSettings : public StationTest, public ::testing::WithParamInterface<SettingsOfKind> {
+ protected:
+  void trigger(const char* entry) { station->window().findChild<QAction*>(QLatin1String(entry))->trigger(); }
+};
+
+TEST_P(StationSettings, TheDefaultsOpenFromTheMenu) {
   ASSERT_TRUE(start());
-  SettingsDialog dialog(QStringLiteral("Commands(0)"));
-  station->window().findChild<QAction*>(QStringLiteral("M_File_O"))->trigger();
-  EXPECT_EQ(dialog.title, QStringLiteral("Settings: Position"));
-  EXPECT_FALSE(dialog.planOffered) << "a plan belongs to a measurement";
+  const SettingsDialog dialog(GetParam().dialog, GetParam().ofMeasurement, "Commands(1)");
+  trigger(GetParam().defaults);
+  EXPECT_EQ(dialog.title, QLatin1String(GetParam().title));
+  EXPECT_FALSE(dialog.measurementOffered);
 }
 
-TEST_F(StationTest, TheMeasuringWindowOpensThemWithItsPlan) {
+TEST_P(StationSettings, TheMeasuringWindowOpensThemWithItsMeasurement) {
   ASSERT_TRUE(start());
-  SettingsDialog dialog(QStringLiteral("Commands(1)"));
+  const SettingsDialog dialog(GetParam().dialog, GetParam().ofMeasurement, "Commands(1)");
   QTimer user;
   user.callOnTimeout([&] {
     QWidget* window = nullptr;
     for (QWidget* each : QApplication::topLevelWidgets())
-      if (each->objectName() == QLatin1String("FormPosition") && each->isVisible()) window = each;
+      if (each->objectName() == QLatin1String(GetParam().window) && each->isVisible()) window = each;
     if (window == nullptr || QApplication::activeModalWidget() != window) return;
     if (dialog.title.isEmpty()) {
       window->findChild<QAction*>(QStringLiteral("M_EinrichtInfo"))->trigger();
@@ -154,10 +169,18 @@ TEST_F(StationTest, TheMeasuringWindowOpensThemWithItsPlan) {
     }
   });
   user.start(5);
-  station->window().findChild<QAction*>(QStringLiteral("M_Position"))->trigger();
-  EXPECT_EQ(dialog.title, QStringLiteral("Settings: Position"));
-  EXPECT_TRUE(dialog.planOffered);
+  trigger(GetParam().entry);
+  EXPECT_EQ(dialog.title, QLatin1String(GetParam().title));
+  EXPECT_TRUE(dialog.measurementOffered);
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Kinds, StationSettings,
+    ::testing::Values(SettingsOfKind{"M_Position", "M_File_O", "FormPosition", "FormOptionsO", "CheckAutoOn",
+                                     "Settings: Position"},
+                      SettingsOfKind{"M_Geradheit", "M_File_G", "FormGeradheit", "FormOptionsG",
+                                     "CheckzAquidistant", "Settings Straightness measurement"}),
+    [](const auto& kind) { return std::string(kind.param.dialog); });
 
 TEST_F(StationTest, TheMeasuringWindowOpensThePrintDialog) {
   ASSERT_TRUE(start());

@@ -22,8 +22,8 @@ void rahmen(QWidget& feld, bool rot) {
 FieldWatch::FieldWatch(Feldpruefer& pruefer, QWidget& dialog)
     : QObject(&dialog), pruefer_(pruefer), dialog_(dialog) {}
 
-void FieldWatch::add(TextEntry& feld, Hinweis& hinweis, FeldPruefung pruefung) {
-  felder_.push_back({&feld, &hinweis, pruefung});
+void FieldWatch::add(TextEntry& feld, Hinweis& hinweis, FeldPruefung pruefung, bool immer) {
+  felder_.push_back({&feld, &hinweis, pruefung, immer});
   feld.installEventFilter(this);
   connect(&feld, &QLineEdit::textChanged, this, [this, feld = &feld] { geaendert(suchen(*feld)); });
 }
@@ -34,7 +34,7 @@ void FieldWatch::gefuellt() {
 
 bool FieldWatch::allePruefen() {
   return std::all_of(felder_.begin(), felder_.end(), [this](Feld& feld) {
-    return !feld.feld->isEnabled() || feld.feld->value() == feld.gut || pruefen(feld);
+    return !feld.feld->isEnabled() || (unveraendert(feld) && !feld.immer) || pruefen(feld);
   });
 }
 
@@ -45,7 +45,8 @@ bool FieldWatch::eventFilter(QObject* watched, QEvent* event) {
   // From the queue: a message box must not open in the midst of a change of the focus, and where it goes is
   // known only then.
   QTimer::singleShot(0, feld, [this, feld, durchKlick] {
-    if (verlassen(*feld, durchKlick)) pruefen(suchen(*feld));
+    Feld& verlassenes = suchen(*feld);
+    if (verlassen(*feld, durchKlick) && !unveraendert(verlassenes)) pruefen(verlassenes);
   });
   return false;
 }
@@ -64,13 +65,20 @@ bool FieldWatch::pruefen(Feld& feld) {
   }
   if (text != feld.feld->value()) feld.feld->setValue(text);
   feld.gut = text;
+  if (bestanden) bestanden(*feld.feld);
   return true;
 }
 
-void FieldWatch::abweisen(const Feld& feld) {
+void FieldWatch::abweisen(Feld& feld) {
+  if (!feld.feld->isEnabled()) {
+    // It can't be corrected there.
+    feld.feld->setValue(feld.gut);
+    return;
+  }
   // Two boxes that both refuse would else send the focus to and fro.
   const QScopedValueRollback<bool> nichtPruefen(gibtZurueck_, true);
-  feld.hinweis->zeige(qText(pruefer_.bereichText(feld.pruefung)));
+  feld.gemeldet = qText(pruefer_.bereichText(feld.pruefung));
+  feld.hinweis->zeige(feld.gemeldet);
   rahmen(*feld.feld, true);
   if (vorholen) vorholen(*feld.feld);
   feld.feld->setFocus();
@@ -80,7 +88,7 @@ void FieldWatch::geaendert(const Feld& feld) {
   if (!feld.feld->property("refused").toBool()) return;
   rahmen(*feld.feld, false);
   // Another part of the dialog may have put words of its own there.
-  if (feld.hinweis->text() == qText(pruefer_.bereichText(feld.pruefung))) feld.hinweis->zeige({});
+  if (feld.hinweis->text() == feld.gemeldet) feld.hinweis->zeige({});
 }
 
 FieldWatch::Feld& FieldWatch::suchen(const QWidget& feld) {

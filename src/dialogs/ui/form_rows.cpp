@@ -22,6 +22,12 @@ EndCaretEntry* eingabefeld(Dictionary& dictionary, std::string_view name, int la
   return feld;
 }
 
+void reserviertesFeld(Dictionary& dictionary, std::string_view name, QWidget* parent) {
+  EndCaretEntry* feld = eingabefeld(dictionary, name, 0, parent);
+  feld->setReadOnly(true);
+  feld->hide();
+}
+
 QPushButton* knopf(const char* name, const QString& worte, QWidget* parent) {
   auto* neu = new QPushButton(worte, parent);
   neu->setObjectName(QLatin1String(name));

@@ -16,6 +16,8 @@ namespace korvin {
 /// What the pages of a settings dialog are built of. All controls bear their object names.
 
 EndCaretEntry* eingabefeld(Dictionary& dictionary, std::string_view name, int laenge, QWidget* parent);
+/// An entry box that no one uses: kept under its name, never shown.
+void reserviertesFeld(Dictionary& dictionary, std::string_view name, QWidget* parent);
 /// A button whose words are never cut.
 QPushButton* knopf(const char* name, const QString& worte, QWidget* parent);
 QComboBox* auswahl(std::string_view name, const QStringList& eintraege, QWidget* parent);

@@ -1,6 +1,6 @@
 #include "dialogs/ui/settings_controls.h"
 
-#include <QCheckBox>
+#include <QAbstractButton>
 #include <QComboBox>
 
 #include "frame/ui/qt_text.h"
@@ -19,10 +19,13 @@ Control& control(const QWidget& dialog, const EinstellFeld& feld) {
 void zeige(const QWidget& dialog, const EinstellFeld& feld, const FeldWert& wert) {
   switch (feld.form) {
     case FeldForm::text:
+    case FeldForm::laenge:
+    case FeldForm::toleranz:
+    case FeldForm::genauigkeit:
       control<TextEntry>(dialog, feld).setValue(std::get<std::string>(wert));
       break;
     case FeldForm::schalter:
-      control<QCheckBox>(dialog, feld).setChecked(std::get<bool>(wert));
+      control<QAbstractButton>(dialog, feld).setChecked(std::get<bool>(wert));
       break;
     case FeldForm::index:
     case FeldForm::faktor:
@@ -34,11 +37,14 @@ void zeige(const QWidget& dialog, const EinstellFeld& feld, const FeldWert& wert
 FeldWert nimm(const QWidget& dialog, const EinstellFeld& feld) {
   switch (feld.form) {
     case FeldForm::schalter:
-      return control<QCheckBox>(dialog, feld).isChecked();
+      return control<QAbstractButton>(dialog, feld).isChecked();
     case FeldForm::index:
     case FeldForm::faktor:
       return control<QComboBox>(dialog, feld).currentIndex();
     case FeldForm::text:
+    case FeldForm::laenge:
+    case FeldForm::toleranz:
+    case FeldForm::genauigkeit:
       break;
   }
   return control<TextEntry>(dialog, feld).value();
@@ -46,12 +52,12 @@ FeldWert nimm(const QWidget& dialog, const EinstellFeld& feld) {
 
 }  // namespace
 
-void zeigeFelder(QWidget& dialog, std::span<const EinstellFeld> felder, const std::vector<FeldWert>& werte) {
+void zeigeFelder(QWidget& dialog, std::span<const EinstellFeld> felder, const FeldWerte& werte) {
   for (std::size_t i = 0; i < felder.size(); ++i) zeige(dialog, felder[i], werte.at(i));
 }
 
-std::vector<FeldWert> nimmFelder(const QWidget& dialog, std::span<const EinstellFeld> felder) {
-  std::vector<FeldWert> werte;
+FeldWerte nimmFelder(const QWidget& dialog, std::span<const EinstellFeld> felder) {
+  FeldWerte werte;
   for (const EinstellFeld& feld : felder) werte.push_back(nimm(dialog, feld));
   return werte;
 }

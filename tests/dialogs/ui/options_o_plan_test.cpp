@@ -194,7 +194,7 @@ TEST_F(PlanInDialog, SwitchedOffItSetsNothingAndComesBackWhenSwitchedOn) {
 TEST_F(PlanInDialog, AnInvalidTimeIsDroppedBySwitchingThePlanOff) {
   showPlan();
   enter(10, "25:00");
-  QCheckBox* plan = check("CheckAutoOn");
+  QAbstractButton* plan = check("CheckAutoOn");
   const QPoint mark(plan->height() / 2, plan->height() / 2);
   QTest::mousePress(plan, Qt::LeftButton, {}, mark);
   // A hand takes its time between press and release.

@@ -17,12 +17,11 @@ class SettingsFromPosition : public test::PositionStand {
   SettingsFromPosition() {
     settings = [this](QWidget& window, const auto& outsideOfTicks) {
       OffeneMessung open{formpos, erfassung()};
-      FormOptionsO({{dictionary(), world.messages, world.meldung, world.profil, world.system},
-                    world.clock,
-                    world.clock,
-                    {},
-                    outsideOfTicks},
-                   &open, &window)
+      FormOptionsO(
+          {{{dictionary(), world.messages, world.meldung, world.profil, world.system}, {}, outsideOfTicks},
+           world.clock,
+           world.clock},
+          &open, &window)
           .ausfuehren();
     };
   }
