@@ -2,6 +2,8 @@
 // line, lost links, closing, and the hand-over to multi-point measuring.
 
 #include <algorithm>
+#include <tuple>
+#include <utility>
 
 #include "frame/leerwert.h"
 #include "straightness/adaptiv_stand.h"
@@ -146,6 +148,26 @@ TEST_F(AdaptivTest, ColourOfThePointIsThatOfItsMean) {
   begin();
   ASSERT_TRUE(finish());
   EXPECT_EQ(atRedraw.front(), FarbeWeiss) << "though the last sample lay outside";
+}
+
+TEST_F(AdaptivTest, MeanOnTheEdgeOfTheSensorIsWithin) {
+  // The mean of two equal samples is exact.
+  adapt().MessZeitMin = 0;
+  for (const auto& [x, y, colour] : {std::tuple{21000, 0, FarbeWeiss},
+                                     {0, 21000, FarbeWeiss},
+                                     {21001, 0, FarbeRot},
+                                     {0, 21001, FarbeRot}}) {
+    world.head.x = 250000 + x;
+    world.head.y = 250000 - y;
+    begin();
+    Farbe ofThePoint = FarbeGelb;
+    view.onRedraw = [&, first = true]() mutable {
+      if (std::exchange(first, false)) ofThePoint = view.valueColour;
+    };
+    ASSERT_TRUE(finish());
+    ASSERT_EQ(state().AdaptN, 2);
+    EXPECT_EQ(ofThePoint, colour) << x << " " << y;
+  }
 }
 
 TEST_F(AdaptivTest, PointAcceptedWithARequestUnderWayIsYellow) {
@@ -334,9 +356,11 @@ TEST_F(AdaptivMehrPunktTest, AcceptedPointIsHandedOverInsteadOfStepping) {
     EXPECT_TRUE(cycle.tmrPolling().enabled());
   };
   begin();
+  const int redraws = view.redraws;
   ASSERT_TRUE(finish());
   EXPECT_EQ(positions.calls, "ae");
   EXPECT_EQ(line().AktMP, 1);
+  EXPECT_EQ(view.redraws, redraws + 1) << "for the reading; there was no step";
 }
 
 TEST_F(AdaptivMehrPunktTest, PointWithoutAResultIsToldAtItsEndAlone) {
