@@ -19,7 +19,7 @@ AdaptSlider sliderFuer(std::int16_t N, std::int16_t messZeitMin) {
   slider.maximum = static_cast<int>(N * Hinaus);
   slider.minimum = std::max(0, N * messZeitMin / Laufzeit);
   if (slider.minimum > slider.maximum) slider.minimum = N;
-  slider.wert = std::clamp<int>(N, slider.minimum, slider.maximum);
+  slider.wert = N;
   return slider;
 }
 

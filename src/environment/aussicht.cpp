@@ -17,11 +17,11 @@ constexpr std::int16_t Inch = 1;
 /// How many standard deviations of s keep the grades apart.
 constexpr double Abstand = 2;
 
-int probenIn(double sekunden, const AnalyseErgebnis& ergebnis) {
-  const double jeProbe = ergebnis.sekundenJePosition();
-  if (!(jeProbe > 0) || !(sekunden > 0)) return 0;
-  // Half a millionth makes up for what the division loses where samples fit exactly.
-  return static_cast<int>(std::min(std::floor(sekunden / jeProbe + 5e-7), ProbenMax));
+int probenIn(std::int16_t sekunden, const AnalyseErgebnis& ergebnis) {
+  const double dauer = ergebnis.dauer();
+  if (!(dauer > 0) || sekunden < 1) return 0;
+  // Multiplied first: samples that fit exactly then come out exactly.
+  return static_cast<int>(std::min(sekunden * ergebnis.AnalyseAnzahl / dauer, ProbenMax));
 }
 
 /// Relative variance of a standard deviation from `n` samples, 2 at least.

@@ -16,9 +16,10 @@ struct AnalyseErgebnis {
   double sY = 0;
   std::int16_t Masssystem = 0;
 
-  /// Seconds that lie between two samples on average; `AnalyseAnzahl` is at least 1. One second is taken off:
-  /// a run is measured as 32 where it took 31.
-  double sekundenJePosition() const { return (AnalyseSekunden - 1) / AnalyseAnzahl; }
+  /// Seconds that the run took: one is taken off, as it is measured as 32 where it took 31.
+  double dauer() const { return AnalyseSekunden - 1; }
+  /// Seconds that lie between two samples on average; `AnalyseAnzahl` is at least 1.
+  double sekundenJePosition() const { return dauer() / AnalyseAnzahl; }
 };
 
 /// The lowest uncertainty that is ever reported. In the unit of the samples: 0.0002 mm, but also 0.0002 mil.

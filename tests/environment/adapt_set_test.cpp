@@ -175,6 +175,21 @@ TEST_F(AdaptSetTest, FewerSamplesThanSecondsShowZero) {
   EXPECT_EQ(set.bild().maximum, 55);
 }
 
+TEST_F(AdaptSetTest, TellsWhatAPositionSays) {
+  finish(155, 1, 0.5);
+  EXPECT_EQ(set.hinweis(100), "20 s: FX 0.4623  FY 0.2311");
+  EXPECT_EQ(set.anzeige().zeit, "31 s") << "nothing is picked by that";
+}
+
+TEST_F(AdaptSetTest, TheOutlookIsThatOfTheSettingsAsTheFrameComesUp) {
+  store("MessInfo_G", "X_Genauigkeit", ".5");
+  store("MessInfo_G", "MessZeitMax", "20 s");
+  finish(155, 0.1, 10);
+  EXPECT_EQ(set.aussicht().vorgabe.X_Genauigkeit, 0.5);
+  EXPECT_EQ(set.aussicht().proben, 100);
+  EXPECT_EQ(set.aussicht().erfolg, Erfolg::unwahrscheinlich);
+}
+
 // ---- What can be saved when ----
 
 TEST_F(AdaptSetTest, SavingIsDisabledUntilSomethingChanges) {

@@ -86,8 +86,19 @@ TEST(AdaptivAussicht, TakesNoMoreThanAThousandSamples) {
 }
 
 TEST(AdaptivAussicht, SamplesThatFitExactlyCount) {
-  for (std::int16_t seconds = 1; seconds < 100; ++seconds)
-    EXPECT_EQ(adaptivAussicht(run(0.01, 0.01), asked(1, 1, seconds)).proben, 5 * seconds);
+  for (std::int16_t rate = 1; rate <= 16; ++rate) {
+    AnalyseErgebnis ergebnis = run(0.01, 0.01);
+    ergebnis.AnalyseAnzahl = static_cast<std::int16_t>(31 * rate);
+    for (std::int16_t seconds = 1; seconds < 60; ++seconds)
+      ASSERT_EQ(adaptivAussicht(ergebnis, asked(1, 1, seconds)).proben, rate * seconds);
+  }
+}
+
+TEST(AdaptivAussicht, ASampleThatFitsInPartDoesNotCount) {
+  AnalyseErgebnis ergebnis = run(0.01, 0.01);
+  ergebnis.AnalyseAnzahl = 150;
+  // 12 * 150 / 31 = 58.06
+  EXPECT_EQ(adaptivAussicht(ergebnis, asked(1, 1, 12)).proben, 58);
 }
 
 // ---- Grades ----
@@ -121,6 +132,7 @@ TEST(AdaptivAussicht, TheWorseAxisDecides) {
 
 TEST(AdaptivAussicht, AnAccuracyOfZeroIsNeverReached) {
   EXPECT_EQ(adaptivAussicht(run(0, 0), asked(0, 0.1)).erfolg, Erfolg::unwahrscheinlich);
+  EXPECT_EQ(adaptivAussicht(run(0, 0), asked(0.1, 0)).erfolg, Erfolg::unwahrscheinlich);
   EXPECT_EQ(adaptivAussicht(run(0, 0), asked(0.1, -1)).erfolg, Erfolg::unwahrscheinlich);
   EXPECT_EQ(adaptivAussicht(run(0, 0), asked(0.1, 0.1)).erfolg, Erfolg::wahrscheinlich);
 }
@@ -136,8 +148,10 @@ TEST(AdaptivAussicht, FewerThanTwoSamplesReachNothing) {
   }
   EXPECT_EQ(adaptivAussicht(slow, asked(1, 1, 2)).erfolg, Erfolg::wahrscheinlich);
   // A run whose time was never measured says nothing about the pace.
-  slow.AnalyseSekunden = 0;
-  EXPECT_EQ(adaptivAussicht(slow, asked(1, 1)).erfolg, Erfolg::unwahrscheinlich);
+  for (const double seconds : {0.0, 1.0}) {
+    slow.AnalyseSekunden = seconds;
+    EXPECT_EQ(adaptivAussicht(slow, asked(1, 1)).erfolg, Erfolg::unwahrscheinlich);
+  }
 }
 
 TEST(AdaptivAussicht, ASingleSampleOfTheRunSaysNothing) {

@@ -92,6 +92,7 @@ TEST(UnsicherheitBerechnen, WithoutSamplesTheTablesAreEmpty) {
     result.UnsicherheitBerechnen(run(N, 0.01, 0.02));
     EXPECT_EQ(result.FxTabelle, UnsicherheitsTabelle{});
     EXPECT_EQ(result.FyTabelle, UnsicherheitsTabelle{});
+    EXPECT_GT(result.MaxFx, 0) << "the panels keep what they showed";
   }
 }
 
@@ -124,6 +125,7 @@ TEST(UnsicherheitBerechnen, LowestUncertaintyHasTheUnitOfTheSamples) {
 }
 
 TEST(UnsicherheitBerechnen, TakesFiveHundredSamplesAndNoMore) {
+  EXPECT_EQ(UnsicherheitsTabelle{}.size(), 1002u);
   EXPECT_NO_THROW(computed(run(500, 0.01, 0.02)));
   for (const std::int16_t N :
        {std::int16_t{501}, std::int16_t{1001}, std::int16_t{1002}, std::int16_t{29999}})

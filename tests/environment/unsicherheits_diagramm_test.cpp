@@ -150,6 +150,12 @@ TEST_F(UnsicherheitsDiagramm, AllValuesAndNumbersLieInThePicture) {
   }
 }
 
+TEST_F(UnsicherheitsDiagramm, TheScaleReachesTheHigherOfTheCurves) {
+  for (double& value : Fx) value /= 100;
+  draw();
+  EXPECT_GT(surface.window.top, Fy.at(1));
+}
+
 TEST_F(UnsicherheitsDiagramm, TimesAreTellingWithTheUnitAtTheLast) {
   draw();
   for (const char* words : {"0", "10", "20", "30", "40", "50 s"}) EXPECT_TRUE(shows(words)) << words;
