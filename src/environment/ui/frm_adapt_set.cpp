@@ -220,8 +220,7 @@ void FrmAdaptSet::werteZeigen() {
   PanelFx_[0]->setText(qText(anzeige.zeit));
   PanelFx_[1]->setText(qText(anzeige.FX));
   PanelFx_[2]->setText(qText(anzeige.FY));
-  OptPrio_[0]->setChecked(anzeige.Beta5);
-  OptPrio_[1]->setChecked(anzeige.Beta1);
+  OptPrio_[anzeige.Beta1 ? 1 : 0]->setChecked(true);
   CmdWerteSave_->setEnabled(set_.speichernFrei());
   bild_->setWert(set_.slider().wert);
 }

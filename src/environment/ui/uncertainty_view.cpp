@@ -1,6 +1,5 @@
 #include "environment/ui/uncertainty_view.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "frame/ui/qt_text.h"
@@ -53,8 +52,7 @@ double PictureUnsicherheit::platzVon(int position) const {
 }
 
 int PictureUnsicherheit::positionBei(double sekunden) const {
-  const double position = std::round(sekunden / bild_.sekundenJePosition);
-  return static_cast<int>(std::clamp<double>(position, 0, bild_.maximum));
+  return static_cast<int>(std::lround(sekunden / bild_.sekundenJePosition));
 }
 
 void PictureUnsicherheit::drawFrame(DrawingSurface& surface) {

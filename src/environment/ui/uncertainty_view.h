@@ -15,7 +15,7 @@ class PictureUnsicherheit : public PictureWidget {
   /// The desk's ports outlive the widget.
   explicit PictureUnsicherheit(const PictureDesk& desk, QWidget* parent = nullptr);
 
-  /// Called with the position that was pressed or dragged to; it may lie beyond the slider's ends.
+  /// Called with the position that was pressed or dragged to; it may lie beyond the tables.
   std::function<void(int position)> onPosition;
   /// Asked for what the pointer's position says, UTF-8.
   std::function<std::string(int position)> hintOf;
