@@ -35,23 +35,23 @@ Gruppe* FormOptionsG::gruppePunkte(QWidget* parent) {
   Gruppe* punkte = gruppe(7651, parent);
   const int reihe = punkte->gitter().rowCount();
   // A line of another number or length than these would be none.
-  zahlZeile(*punkte, reihe, 0, text(7464), "AnzMPs", true);
-  zahlZeile(*punkte, reihe + 2, 0, mitEinheit(3000, "mm", "in"), "Distanz", true);
+  zahlZeile(*punkte, reihe, 0, text(7464), zeile("AnzMPs"), true);
+  zahlZeile(*punkte, reihe + 2, 0, mitEinheit(3000, "mm", "in"), zeile("Distanz"), true);
   verschoben_ = new Hinweis("HinweisVerschoben", punkte);
   CheckzAquidistant_ = schalter(dictionary(), "CheckzAquidistant", 7652, punkte);
   zurLage_ = erklaerung(text(optionen_.mitReihe() ? 7653 : 7670), punkte);
   punkte->zeile(verschoben_);
   punkte->zeile(CheckzAquidistant_);
   punkte->zeile(zurLage_);
-  punkte->zeile(schalterZu("BiDi_Messen", 7654, punkte));
+  punkte->zeile(schalterZu(zeile("BiDi_Messen"), 7654, punkte));
   connect(CheckzAquidistant_, &QCheckBox::clicked, this, &FormOptionsG::gleichVerteilen);
   return punkte;
 }
 
 Gruppe* FormOptionsG::gruppeToleranzen(QWidget* parent) {
   Gruppe* ziel = gruppe(7656, parent);
-  toleranzen(*ziel);
-  QComboBox* bezug = liste("ToleranzBezug",
+  toleranzen(*ziel, "Toleranz_G");
+  QComboBox* bezug = liste(zeile("ToleranzBezug"),
                            {QStringLiteral("0 - ") + text(3027), QStringLiteral("1 - ") + text(3028),
                             QStringLiteral("2 - ") + text(3026)},
                            ziel);

@@ -62,11 +62,11 @@ void FormOptionsO::seiteDisplay() {
   QWidget* neu = seite("TabDisplay", 2223, 2228);
   Gruppe* anzeige = gruppeAnzeige(musterDerStellen(), neu);
   Gruppe* protokoll = gruppe(3019, neu);
-  protokoll->zeile(schalterZu("CheckXYDiagramm", 7473, protokoll));
-  protokoll->zeile(schalterZu("CheckXTabelle", 7474, protokoll));
-  protokoll->zeile(schalterZu("CheckYTabelle", 7475, protokoll));
+  protokoll->zeile(schalterZu(zeile("CheckXYDiagramm"), 7473, protokoll));
+  protokoll->zeile(schalterZu(zeile("CheckXTabelle"), 7474, protokoll));
+  protokoll->zeile(schalterZu(zeile("CheckYTabelle"), 7475, protokoll));
   Gruppe* dateien = gruppe(7454, neu);
-  dateien->zeile(schalterZu("AsciiDatei", 7476, dateien));
+  dateien->zeile(schalterZu(zeile("AsciiDatei"), 7476, dateien));
   for (Gruppe* each : {anzeige, protokoll, dateien}) spalte(neu)->addWidget(each);
   spalte(neu)->addStretch();
 }

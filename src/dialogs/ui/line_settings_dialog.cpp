@@ -68,12 +68,12 @@ void LineSettingsDialog::seiteDisplay() {
   QWidget* neu = rahmenSeite("TabDisplay", 2223, 2228);
   Gruppe* anzeige = gruppeAnzeige(musterDerStellen(), neu);
   Gruppe* protokoll = gruppe(3019, neu);
-  protokoll->zeile(schalterZu("CheckXDiagramm", 7668, protokoll));
-  protokoll->zeile(schalterZu("CheckYDiagramm", 7669, protokoll));
-  protokoll->zeile(schalterZu("CheckXTabelle", 7474, protokoll));
-  protokoll->zeile(schalterZu("CheckYTabelle", 7475, protokoll));
+  protokoll->zeile(schalterZu(zeile("CheckXDiagramm"), 7668, protokoll));
+  protokoll->zeile(schalterZu(zeile("CheckYDiagramm"), 7669, protokoll));
+  protokoll->zeile(schalterZu(zeile("CheckXTabelle"), 7474, protokoll));
+  protokoll->zeile(schalterZu(zeile("CheckYTabelle"), 7475, protokoll));
   Gruppe* dateien = gruppe(7454, neu);
-  dateien->zeile(schalterZu("AsciiDatei", 7476, dateien));
+  dateien->zeile(schalterZu(zeile("AsciiDatei"), 7476, dateien));
   for (Gruppe* each : {anzeige, protokoll, dateien}) spalte(neu)->addWidget(each);
   spalte(neu)->addStretch();
 }
@@ -86,16 +86,16 @@ QString LineSettingsDialog::mitEinheit(std::int16_t nummer, const char* metrisch
 }
 
 EndCaretEntry* LineSettingsDialog::zahlZeile(Gruppe& ziel, int reihe, int spalte, const QString& worte,
-                                             std::string_view key, bool immer) {
-  Hinweis* hinweis = hinweisZu(key, &ziel);
-  EndCaretEntry* feld = zahlEingabe(key, *hinweis, &ziel, immer);
-  ziel.gitter().addWidget(beschriftung(worte, feld), reihe, spalte);
-  ziel.gitter().addWidget(feld, reihe, spalte + 1, Qt::AlignLeft);
+                                             const EinstellFeld& feld, bool immer) {
+  Hinweis* hinweis = hinweisZu(feld, &ziel);
+  EndCaretEntry* box = zahlEingabe(feld, *hinweis, &ziel, immer);
+  ziel.gitter().addWidget(beschriftung(worte, box), reihe, spalte);
+  ziel.gitter().addWidget(box, reihe, spalte + 1, Qt::AlignLeft);
   ziel.gitter().addWidget(hinweis, reihe + 1, spalte, 1, 2);
-  return feld;
+  return box;
 }
 
-void LineSettingsDialog::toleranzen(Gruppe& ziel) {
+void LineSettingsDialog::toleranzen(Gruppe& ziel, std::string_view section) {
   const std::array<QString, 3> worte = {mitEinheit(7657, "mm", "mil"), mitEinheit(7658, "mm", "mil"),
                                         mitEinheit(7659, "mm", "in")};
   const std::array<const char*, 3> keys = {"Gesamt", "WertPro", "ProEinheit"};
@@ -106,21 +106,26 @@ void LineSettingsDialog::toleranzen(Gruppe& ziel) {
     ziel.gitter().addWidget(new QLabel(qText(name), &ziel), kopf, achse + 1);
     for (int i = 0; i < 3; ++i) {
       const auto platz = static_cast<std::size_t>(i);
-      toleranzFeld(ziel, kopf + 1 + 2 * i, achse + 1, worte.at(platz), name + keys.at(platz));
+      toleranzFeld(ziel, kopf + 1 + 2 * i, achse + 1, worte.at(platz), zeile(name + keys.at(platz), section));
     }
   }
-  ziel.gitter().setColumnStretch(2, 1);
+  // Both columns stand side by side, as wide as a refusal; the room is to the right of them.
+  const QString abweisung = qText(pruefer().bereichText(FeldPruefung::toleranz));
+  for (const int spalte : {1, 2})
+    ziel.gitter().setColumnMinimumWidth(spalte, fontMetrics().horizontalAdvance(abweisung) + scaled(8));
+  ziel.gitter().setColumnStretch(1, 0);
+  ziel.gitter().setColumnStretch(3, 1);
 }
 
 void LineSettingsDialog::toleranzFeld(Gruppe& ziel, int reihe, int spalte, const QString& worte,
-                                      const std::string& key) {
-  Hinweis* hinweis = hinweisZu(key, &ziel);
-  EndCaretEntry* feld = zahlEingabe(key, *hinweis, &ziel);
-  if (spalte == 1) ziel.gitter().addWidget(beschriftung(worte, feld), reihe, 0);
-  feld->setAccessibleName(worte + QLatin1Char(' ') + qText(key).left(1));
-  ziel.gitter().addWidget(feld, reihe, spalte, Qt::AlignLeft);
+                                      const EinstellFeld& feld) {
+  Hinweis* hinweis = hinweisZu(feld, &ziel);
+  EndCaretEntry* box = zahlEingabe(feld, *hinweis, &ziel);
+  if (spalte == 1) ziel.gitter().addWidget(beschriftung(worte, box), reihe, 0);
+  box->setAccessibleName(worte + QLatin1Char(' ') + qText(feld.einstellung.key).left(1));
+  ziel.gitter().addWidget(box, reihe, spalte, Qt::AlignLeft);
   ziel.gitter().addWidget(hinweis, reihe + 1, spalte);
-  if (zeile(key).pruefung == FeldPruefung::keine) abschnittWatch(*feld, *hinweis);
+  if (feld.pruefung == FeldPruefung::keine) abschnittWatch(*box, *hinweis);
 }
 
 // The length of a section is not checked: what it is read as stands beside it instead.
@@ -135,13 +140,15 @@ void LineSettingsDialog::abschnittWatch(EndCaretEntry& feld, Hinweis& hinweis) {
 
 Gruppe* LineSettingsDialog::gruppeAdaptiv(QWidget* parent) {
   Gruppe* adaptiv = gruppe(7661, parent);
-  QCheckBox* an = schalterZu("AutoAdapt", 7662, adaptiv);
+  QCheckBox* an = schalterZu(zeile("AutoAdapt"), 7662, adaptiv);
   adaptiv->zeile(an);
   const int reihe = adaptiv->gitter().rowCount();
-  EndCaretEntry* x = zahlZeile(*adaptiv, reihe, 0, mitEinheit(7663, "mm", "mil"), "X_Genauigkeit");
-  EndCaretEntry* y = zahlZeile(*adaptiv, reihe + 2, 0, mitEinheit(7664, "mm", "mil"), "Y_Genauigkeit");
-  EndCaretEntry* kurz = zahlZeile(*adaptiv, reihe, 2, text(7665) + QStringLiteral(" [s]"), "MessZeitMin");
-  EndCaretEntry* lang = zahlZeile(*adaptiv, reihe + 2, 2, text(7666) + QStringLiteral(" [s]"), "MessZeitMax");
+  EndCaretEntry* x = zahlZeile(*adaptiv, reihe, 0, mitEinheit(7663, "mm", "mil"), zeile("X_Genauigkeit"));
+  EndCaretEntry* y = zahlZeile(*adaptiv, reihe + 2, 0, mitEinheit(7664, "mm", "mil"), zeile("Y_Genauigkeit"));
+  EndCaretEntry* kurz =
+      zahlZeile(*adaptiv, reihe, 2, text(7665) + QStringLiteral(" [s]"), zeile("MessZeitMin"));
+  EndCaretEntry* lang =
+      zahlZeile(*adaptiv, reihe + 2, 2, text(7666) + QStringLiteral(" [s]"), zeile("MessZeitMax"));
   QWidget* niveau = prioritaeten(adaptiv);
   adaptiv->gitter().addWidget(beschriftung(text(7667), niveau), reihe + 4, 0);
   adaptiv->gitter().addWidget(niveau, reihe + 4, 1, Qt::AlignLeft);
@@ -173,8 +180,8 @@ void LineSettingsDialog::adaptivSchalten(bool an) {
 }
 
 void LineSettingsDialog::messZeitenKoppeln(const QWidget& geprueft) {
-  auto* kurz = control<TextEntry>("MessZeitMin");
-  auto* lang = control<TextEntry>("MessZeitMax");
+  auto* kurz = control<TextEntry>(zeile("MessZeitMin"));
+  auto* lang = control<TextEntry>(zeile("MessZeitMax"));
   if (&geprueft != kurz) return;
   const std::string neu = messZeitMaxZu(kurz->value(), lang->value());
   if (neu != lang->value()) lang->setValue(neu);

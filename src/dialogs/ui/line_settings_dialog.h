@@ -35,9 +35,9 @@ class LineSettingsDialog : public SettingsDialog {
   QWidget* seiteMessinstrument();
   void seiteDisplay();
   Gruppe* gruppeAdaptiv(QWidget* parent);
-  /// The three tolerances of both axes, whose keys have the axis before `Gesamt`, `WertPro` and `ProEinheit`,
-  /// as rows of `ziel`.
-  void toleranzen(Gruppe& ziel);
+  /// The three tolerances of both axes, whose keys in `section` have the axis before `Gesamt`, `WertPro` and
+  /// `ProEinheit`, as rows of `ziel`.
+  void toleranzen(Gruppe& ziel, std::string_view section);
 
   /// The last step of building: commands, values from the store, and from then on every change counts.
   void fertigstellen();
@@ -45,15 +45,15 @@ class LineSettingsDialog : public SettingsDialog {
   void setGeaendert(bool geaendert);
 
   /// Label, checked box and its refusal beneath, in two columns of the grid from `spalte` on.
-  EndCaretEntry* zahlZeile(Gruppe& ziel, int reihe, int spalte, const QString& worte, std::string_view key,
-                           bool immer = false);
+  EndCaretEntry* zahlZeile(Gruppe& ziel, int reihe, int spalte, const QString& worte,
+                           const EinstellFeld& feld, bool immer = false);
   QString mitEinheit(std::int16_t nummer, const char* metrisch, const char* inch);
 
  private:
   QLayout* knopfleiste();
   QWidget* prioritaeten(QWidget* parent);
   /// A box of one axis, in its column of the tolerances.
-  void toleranzFeld(Gruppe& ziel, int reihe, int spalte, const QString& worte, const std::string& key);
+  void toleranzFeld(Gruppe& ziel, int reihe, int spalte, const QString& worte, const EinstellFeld& feld);
   void abschnittWatch(EndCaretEntry& feld, Hinweis& hinweis);
   void adaptivSchalten(bool an);
   void messZeitenKoppeln(const QWidget& geprueft);

@@ -79,10 +79,10 @@ QWidget* SettingsDialog::seite(const char* name, std::int16_t titel, std::int16_
 
 Gruppe* SettingsDialog::gruppeAngaben(QWidget* parent) {
   Gruppe* angaben = gruppe(7453, parent);
-  angaben->zeile(text(7012), eingabe("FirmaName", angaben));
-  angaben->zeile(text(3044), eingabe("Bezeichnung", angaben));
-  angaben->zeile(text(3008), eingabe("Bediener", angaben));
-  angaben->zeile(text(3009), eingabe("Kommentar", angaben));
+  angaben->zeile(text(7012), eingabe(zeile("FirmaName"), angaben));
+  angaben->zeile(text(3044), eingabe(zeile("Bezeichnung"), angaben));
+  angaben->zeile(text(3008), eingabe(zeile("Bediener"), angaben));
+  angaben->zeile(text(3009), eingabe(zeile("Kommentar"), angaben));
   return angaben;
 }
 
@@ -91,14 +91,14 @@ Gruppe* SettingsDialog::gruppeDateien(QWidget* parent) {
   auto* reihe = new QWidget(dateien);
   auto* nebeneinander = new QHBoxLayout(reihe);
   nebeneinander->setContentsMargins(0, 0, 0, 0);
-  EndCaretEntry* ordner = eingabe("PfadMessFile", reihe);
+  EndCaretEntry* ordner = eingabe(zeile("PfadMessFile"), reihe);
   ordner->setMinimumWidth(scaled(Textbreite));
   ordner->setAccessibleName(text(7450));
   QPushButton* durchsuchenKnopf = knopf("cmdDurchsuchen", text(7451), reihe);
   nebeneinander->addWidget(ordner, 1);
   nebeneinander->addWidget(durchsuchenKnopf);
   dateien->zeile(text(7450), reihe);
-  zumOrdner_ = hinweisZu("PfadMessFile", dateien);
+  zumOrdner_ = hinweisZu(zeile("PfadMessFile"), dateien);
   dateien->zeile(zumOrdner_, true);
   connect(ordner, &QLineEdit::textChanged, this, &SettingsDialog::ordnerZeigen);
   connect(durchsuchenKnopf, &QPushButton::clicked, this, &SettingsDialog::durchsuchen);
@@ -107,10 +107,11 @@ Gruppe* SettingsDialog::gruppeDateien(QWidget* parent) {
 
 Gruppe* SettingsDialog::gruppeVerbindung(QWidget* parent) {
   Gruppe* verbindung = gruppe(7456, parent);
-  Hinweis* zumPort = hinweisZu("PortNr", verbindung);
-  QComboBox* cmbBpS = liste("BaudRate", {QStringLiteral("19200"), QStringLiteral("115200")}, verbindung);
+  Hinweis* zumPort = hinweisZu(zeile("PortNr"), verbindung);
+  QComboBox* cmbBpS =
+      liste(zeile("BaudRate"), {QStringLiteral("19200"), QStringLiteral("115200")}, verbindung);
   cmbBpS->setFixedWidth(scaled(Feldbreite));
-  verbindung->zeile(text(7457), zahlEingabe("PortNr", *zumPort, verbindung), false);
+  verbindung->zeile(text(7457), zahlEingabe(zeile("PortNr"), *zumPort, verbindung), false);
   verbindung->zeile(zumPort);
   verbindung->zeile(text(7458), cmbBpS, false);
   verbindung->zeile(erklaerung(text(7459), verbindung));
@@ -125,10 +126,10 @@ Gruppe* SettingsDialog::gruppeFilterUndMontage(QWidget* parent) {
   for (std::int16_t i = 0; i < AnzahlFilter; ++i)
     zeiten << text(static_cast<std::int16_t>(ErsterFilterText + i));
   for (std::int16_t i = 0; i < AnzahlMontagen; ++i) montagen << qText(MontageText(dictionary(), i));
-  QComboBox* cmbMontage = liste("Montage", montagen, kopf);
+  QComboBox* cmbMontage = liste(zeile("Montage"), montagen, kopf);
   ImgMontage_ = new QLabel(kopf);
   ImgMontage_->setObjectName(QStringLiteral("ImgMontage"));
-  kopf->zeile(text(3013), liste("Filter", zeiten, kopf));
+  kopf->zeile(text(3013), liste(zeile("Filter"), zeiten, kopf));
   kopf->zeile(text(7461), cmbMontage);
   kopf->zeile(ImgMontage_, true);
   kopf->gitter().setRowStretch(kopf->gitter().rowCount(), 1);
@@ -138,8 +139,8 @@ Gruppe* SettingsDialog::gruppeFilterUndMontage(QWidget* parent) {
 
 Gruppe* SettingsDialog::gruppeAnzeige(const QStringList& stellen, QWidget* parent) {
   Gruppe* anzeige = gruppe(7477, parent);
-  QComboBox* cmbAnzStellen = liste("NKStellen", stellen, anzeige);
-  QComboBox* cmbSfak = liste("SFAK", faktoren(), anzeige);
+  QComboBox* cmbAnzStellen = liste(zeile("NKStellen"), stellen, anzeige);
+  QComboBox* cmbSfak = liste(zeile("SFAK"), faktoren(), anzeige);
   for (QComboBox* each : {cmbAnzStellen, cmbSfak}) each->setFixedWidth(scaled(Feldbreite));
   anzeige->zeile(text(7471), cmbAnzStellen, false);
   anzeige->zeile(text(7472), cmbSfak, false);
@@ -148,40 +149,40 @@ Gruppe* SettingsDialog::gruppeAnzeige(const QStringList& stellen, QWidget* paren
 
 // ---- Controls by their settings ----
 
-const EinstellFeld& SettingsDialog::zeile(std::string_view key) const {
-  const auto feld = std::find_if(felder_.begin(), felder_.end(),
-                                 [key](const EinstellFeld& each) { return each.einstellung.key == key; });
+const EinstellFeld& SettingsDialog::zeile(std::string_view key, std::string_view section) const {
+  const auto feld = std::find_if(felder_.begin(), felder_.end(), [&](const EinstellFeld& each) {
+    return each.einstellung.key == key && (section.empty() || each.einstellung.section == section);
+  });
   Q_ASSERT_X(feld != felder_.end(), "settings dialog", key.data());
   return *feld;
 }
 
-QString SettingsDialog::controlName(std::string_view key) const {
-  return qText(zeile(key).control);
+QString SettingsDialog::controlName(const EinstellFeld& feld) {
+  return qText(feld.control);
 }
 
-EndCaretEntry* SettingsDialog::eingabe(std::string_view key, QWidget* parent) {
-  const EinstellFeld& feld = zeile(key);
+EndCaretEntry* SettingsDialog::eingabe(const EinstellFeld& feld, QWidget* parent) {
   return eingabefeld(dictionary(), feld.control, feld.umfang, parent);
 }
 
-EndCaretEntry* SettingsDialog::zahlEingabe(std::string_view key, Hinweis& hinweis, QWidget* parent,
+EndCaretEntry* SettingsDialog::zahlEingabe(const EinstellFeld& feld, Hinweis& hinweis, QWidget* parent,
                                            bool immer) {
-  EndCaretEntry* feld = eingabe(key, parent);
-  feld->setFixedWidth(scaled(Feldbreite));
-  waechter_->add(*feld, hinweis, zeile(key).pruefung, immer);
-  return feld;
+  EndCaretEntry* neu = eingabe(feld, parent);
+  neu->setFixedWidth(scaled(Feldbreite));
+  waechter_->add(*neu, hinweis, feld.pruefung, immer);
+  return neu;
 }
 
-Hinweis* SettingsDialog::hinweisZu(std::string_view key, QWidget* parent) const {
-  return new Hinweis(hinweisName(zeile(key).control), parent);
+Hinweis* SettingsDialog::hinweisZu(const EinstellFeld& feld, QWidget* parent) {
+  return new Hinweis(hinweisName(feld.control), parent);
 }
 
-QComboBox* SettingsDialog::liste(std::string_view key, const QStringList& eintraege, QWidget* parent) {
-  return auswahl(zeile(key).control, eintraege, parent);
+QComboBox* SettingsDialog::liste(const EinstellFeld& feld, const QStringList& eintraege, QWidget* parent) {
+  return auswahl(feld.control, eintraege, parent);
 }
 
-QCheckBox* SettingsDialog::schalterZu(std::string_view key, std::int16_t nummer, QWidget* parent) {
-  return schalter(dictionary(), zeile(key).control, nummer, parent);
+QCheckBox* SettingsDialog::schalterZu(const EinstellFeld& feld, std::int16_t nummer, QWidget* parent) {
+  return schalter(dictionary(), feld.control, nummer, parent);
 }
 
 // ---- Showing ----
@@ -191,7 +192,7 @@ void SettingsDialog::fuellen(const FeldWerte& werte) {
   waechter_->gefuellt();
   montageZeigen();
   ordnerZeigen();
-  control<QWidget>("FirmaName")->setFocus();
+  control<QWidget>(zeile("FirmaName"))->setFocus();
 }
 
 FeldWerte SettingsDialog::werte() const {
@@ -199,20 +200,20 @@ FeldWerte SettingsDialog::werte() const {
 }
 
 void SettingsDialog::montageZeigen() {
-  const auto index = static_cast<std::int16_t>(control<QComboBox>("Montage")->currentIndex());
+  const auto index = static_cast<std::int16_t>(control<QComboBox>(zeile("Montage"))->currentIndex());
   ImgMontage_->setPixmap(
       iconPixmap(qText(MontageBild(index)), scaled(MontageBildSeite), devicePixelRatioF()));
 }
 
 void SettingsDialog::ordnerZeigen() {
-  const std::string ordner = control<TextEntry>("PfadMessFile")->value();
+  const std::string ordner = control<TextEntry>(zeile("PfadMessFile"))->value();
   std::error_code fehler;
   const bool da = ordner.empty() || std::filesystem::is_directory(pfadAusUtf8(ordner), fehler);
   zumOrdner_->zeige(da ? QString() : text(7455));
 }
 
 void SettingsDialog::durchsuchen() {
-  auto* ordner = control<TextEntry>("PfadMessFile");
+  auto* ordner = control<TextEntry>(zeile("PfadMessFile"));
   const std::string gewaehlt = ordnerErfragen(this, dictionary().DicText(7452), ordner->value());
   if (gewaehlt.empty()) return;
   if (!passtInCp1252(gewaehlt)) {

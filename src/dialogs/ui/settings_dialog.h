@@ -62,20 +62,20 @@ class SettingsDialog : public QDialog {
 
   // ---- Controls by their settings ----
 
-  /// The first line of the table with this key.
-  const EinstellFeld& zeile(std::string_view key) const;
+  /// The line of the table with this key; of this section, where several have the key.
+  const EinstellFeld& zeile(std::string_view key, std::string_view section = {}) const;
   /// The entry box of a setting.
-  EndCaretEntry* eingabe(std::string_view key, QWidget* parent);
+  EndCaretEntry* eingabe(const EinstellFeld& feld, QWidget* parent);
   /// The same with a number: narrow, and watched. `hinweis` takes what it says after a refusal. `immer`:
   /// checked before taking over even if it was not changed.
-  EndCaretEntry* zahlEingabe(std::string_view key, Hinweis& hinweis, QWidget* parent, bool immer = false);
+  EndCaretEntry* zahlEingabe(const EinstellFeld& feld, Hinweis& hinweis, QWidget* parent, bool immer = false);
   /// The line of refusals that belongs to the box of a setting.
-  Hinweis* hinweisZu(std::string_view key, QWidget* parent) const;
-  QComboBox* liste(std::string_view key, const QStringList& eintraege, QWidget* parent);
-  QCheckBox* schalterZu(std::string_view key, std::int16_t text, QWidget* parent);
+  static Hinweis* hinweisZu(const EinstellFeld& feld, QWidget* parent);
+  QComboBox* liste(const EinstellFeld& feld, const QStringList& eintraege, QWidget* parent);
+  QCheckBox* schalterZu(const EinstellFeld& feld, std::int16_t text, QWidget* parent);
   template <class Control>
-  Control* control(std::string_view key) {
-    return findChild<Control*>(controlName(key));
+  Control* control(const EinstellFeld& feld) {
+    return findChild<Control*>(controlName(feld));
   }
 
   // ---- Showing and commands ----
@@ -99,7 +99,7 @@ class SettingsDialog : public QDialog {
 
  private:
   QString qDicText(std::int16_t nummer);
-  QString controlName(std::string_view key) const;
+  static QString controlName(const EinstellFeld& feld);
   void montageZeigen();
   void ordnerZeigen();
   void durchsuchen();

@@ -146,7 +146,7 @@ void DatenFenster::sichern(bool (DateiBefehle::*befehl)()) {
 void DatenFenster::M_EinrichtInfo() {
   ausserhalbDesTakts([this] {
     // The key of the head may have begun a run since the click.
-    if (!dienste_.einrichten || zyklus().laeuft()) return;
+    if (!dienste_.einrichten || zyklus().laeuft() || zyklus().adaptiv()) return;
     {
       const TastenSperre sperre(zyklus(), beschreibung().einrichtenHaeltAn);
       dienste_.einrichten(*this,

@@ -76,6 +76,21 @@ TEST_F(GeradSettingsKey, AClickDuringATelegramWaitsForItsEnd) {
   EXPECT_EQ(opened, 1);
 }
 
+TEST_F(GeradSettingsKey, AnAdaptivePointThatTheHeadBeganMeanwhileKeepsItClosed) {
+  inDialog({});
+  show();
+  series().Adapt.AutoAdapt = true;
+  world.head.delay = 0.2;
+  world.head.key = 'M';
+  world.clock.after(0.85, [this] {
+    world.head.key = 'K';
+    click("EINRICHTEN");
+  });
+  run(2);
+  EXPECT_FALSE(enabled("EINRICHTEN")) << "a point is under way";
+  EXPECT_EQ(opened, 0);
+}
+
 TEST_F(GeradSettingsKey, TheSettingsAreReadIntoTheWindowAfterIt) {
   show();
   takePoints({0.1, 0.2});
