@@ -88,6 +88,13 @@ TEST(AchseBerechnen, OpenPointsOfROHInInchSpoilTheStatisticsButNotTheCurve) {
   EXPECT_EQ(axis.data.texte.Wert, "?.?");
 }
 
+TEST(AchseBerechnen, CurveHasNoOpenPointAtEitherEnd) {
+  AxisStand axis({Leerwert, 0.0254, Leerwert});
+  axis.draw(Inch);
+  EXPECT_EQ(axis.data.kurve.at(1), Leerwert);
+  EXPECT_EQ(axis.data.kurve.at(3), Leerwert);
+}
+
 TEST(AchseBerechnen, AsksForTheValueWhereTheCursorStandsNowhere) {
   AxisStand axis({0.001, 0.002});
   for (const std::int16_t point : {std::int16_t{0}, std::int16_t{-1}, std::int16_t{3}, std::int16_t{202}}) {

@@ -354,6 +354,60 @@ TEST(AchsenInhaltZeichnen, DrawsStatisticsWithTheirLetters) {
   }
 }
 
+TEST(AchsenInhaltZeichnen, SetsTheLettersBesideTheirLines) {
+  AxisStand axis({0.001, 0.02, 0.028, 0.004});
+  axis.series.Info.ZeigeMittel = axis.series.Info.ZeigeSpanne = true;
+  axis.tolerance(0.04, BezugMinimum);
+  axis.draw();
+  const auto texts = axis.content.all(Kind::text);
+  ASSERT_EQ(axis.content.texts(), (Lines{"t", "t", "x", "R", "R"}));
+  for (const DrawingOp& op : texts) {
+    if (op.text == "t") {
+      EXPECT_GT(op.points[0].x, 0) << "by the first point";
+      EXPECT_LT(op.points[0].x, 20);
+    } else {
+      EXPECT_GT(op.points[0].x, 1000) << "behind the last point";
+      EXPECT_LT(op.points[0].x, achsenFenster({.R = 1, .Distanz = 1000, .z = {}, .einheit = {}}).right);
+    }
+  }
+}
+
+TEST(AchsenRahmenZeichnen, BeginsOnACleanGround) {
+  AxisStand axis({0.1, 0.5});
+  axis.draw();
+  const auto& cleared = axis.frameSurface.all(Kind::clear);
+  ASSERT_EQ(cleared.size(), 1U);
+  EXPECT_EQ(cleared[0].colour, FarbeAchsenGrund);
+}
+
+TEST(AchsenInhaltZeichnen, SetsDiscsOnTheValuesInsideTheRangeWhereACurveHasThem) {
+  const std::vector<double> values = {4, 0.5, Leerwert, 2, -1};
+  const std::vector<double> z = {0, 0, 100, 200, 300};
+  AchsenRahmen frame{.R = 1, .Distanz = 300, .z = z, .AnzMPs = 4, .einheit = "mm"};
+  AchsenInhalt content;
+  content.kurven.push_back({.werte = {values, z}, .farbe = 0x123456, .punkte = true});
+  test::RecordingSurface surface;
+  achsenInhaltZeichnen(surface, frame, content);
+  const auto discs = surface.all(Kind::disc);
+  ASSERT_EQ(discs.size(), 2U) << "not on an open value, nor on one beyond the range";
+  EXPECT_EQ(discs[0].points[0], (DataPoint{0, 0.5}));
+  EXPECT_EQ(discs[1].points[0], (DataPoint{300, -1}));
+  EXPECT_EQ(discs[0].colour, 0x123456);
+  EXPECT_DOUBLE_EQ(discs[0].radius, 3 * surface.lineWidth().width);
+  content.kurven[0].punkte = false;
+  test::RecordingSurface without;
+  achsenInhaltZeichnen(without, frame, content);
+  EXPECT_TRUE(without.all(Kind::disc).empty());
+}
+
+TEST(AchsenInhaltZeichnen, CurvesAreTwiceAsWideAsLines) {
+  AxisStand axis({0.1, 0.4, -0.3});
+  axis.series.Info.ZeigeMittel = true;
+  axis.draw();
+  for (const DrawingOp& op : axis.content.all(Kind::polyline)) EXPECT_EQ(op.width, 2);
+  for (const DrawingOp& op : axis.content.all(Kind::line)) EXPECT_EQ(op.width, 1);
+}
+
 TEST(AchsenInhaltZeichnen, DrawsTheBandDottedAndItsLetterOnlyInsideTheRange) {
   for (const auto& [reference, letters] :
        {std::pair{BezugMinimum, 1}, std::pair{BezugNull, 0}, std::pair{BezugMaximum, 1}}) {
@@ -389,9 +443,11 @@ TEST(AchsenInhaltZeichnen, KeepsTheMarksInsideThePicture) {
   for (const DrawingOp& op : axis.content.all(Kind::text)) {
     if (op.text == "Ref1") {
       EXPECT_EQ(op.horizontal, HorizontalAnchor::left);
+      EXPECT_EQ(op.points[0], (DataPoint{10, 0})) << "as far off the circle as it is wide";
     }
     if (op.text == "Ref2") {
       EXPECT_EQ(op.horizontal, HorizontalAnchor::right);
+      EXPECT_EQ(op.points[0], (DataPoint{990, 0}));
     }
   }
 }

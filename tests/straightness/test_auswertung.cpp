@@ -153,6 +153,14 @@ TEST(ReiheAuswerten, ShowsReadingsInREFWithAnOpenReferencePoint) {
   EXPECT_EQ(evaluated(series(readings), AuswertungREF), readings);
 }
 
+TEST(ReiheAuswerten, AReferencePointOfZeroIsNoFailure) {
+  // As files of a series without points have it.
+  GeradReihe made = series({0.1, 0.2, 0.4});
+  made.Info.Ref1 = 0;
+  made.Info.Ref2 = 0;
+  EXPECT_EQ(evaluated(made, AuswertungREF), (std::vector<double>{0.1, 0.2, 0.4}));
+}
+
 TEST(ReiheAuswerten, IsZeroAtBothReferencePoints) {
   GeradReihe made = series({0.1, 0.2, 0.7, 0.4});
   made.Info.Ref1 = 2;

@@ -150,6 +150,9 @@ TEST_F(GeradErfassungTest, ReferencePointsKeepTheirOrder) {
   EXPECT_EQ(info().Ref1, 3);
   EXPECT_EQ(world.messages.beeps, 2);
   EXPECT_FALSE(info().Geaendert);
+  line().AktMP = 1;
+  EXPECT_TRUE(task.REF1());
+  EXPECT_EQ(info().Ref1, 1);
 }
 
 TEST_F(GeradErfassungTest, SecondOfTwoPointsIsNoFirstReference) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "frame/datum_text.h"
 #include "frame/leerwert.h"
 #include "support/test_ports.h"
@@ -73,6 +75,27 @@ TEST_F(NewSeriesTest, StartsEmptyUnsavedAndEvaluatedByItsLine) {
   EXPECT_EQ(series.Linie.Z.at(6), 2500);
   EXPECT_EQ(series.Linie.AktMP, 1);
   EXPECT_EQ(series.Info.Ref2, 6);
+}
+
+TEST_F(NewSeriesTest, TakesEachPrintChoiceFromItsOwnSetting) {
+  const auto choices = [this] {
+    const GeradInfo info = made().Info;
+    return std::array{static_cast<bool>(info.CheckXDiagramm), static_cast<bool>(info.CheckYDiagramm),
+                      static_cast<bool>(info.CheckXTabelle), static_cast<bool>(info.CheckYTabelle)};
+  };
+  std::size_t place = 0;
+  for (const char* key : {"CheckXDiagramm", "CheckYDiagramm", "CheckXTabelle", "CheckYTabelle"}) {
+    set("DruckInfo_G", key, "-1");
+    std::array<bool, 4> wanted{};
+    wanted.at(place++) = true;
+    EXPECT_EQ(choices(), wanted) << key;
+    set("DruckInfo_G", key, "0");
+  }
+}
+
+TEST_F(NewSeriesTest, TakesAVeryShortLine) {
+  set("MessInfo_G", "Distanz", "0.5");
+  EXPECT_EQ(made().Linie.Distanz, 0.5);
 }
 
 TEST_F(NewSeriesTest, TakesEverySetting) {

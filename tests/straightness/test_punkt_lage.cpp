@@ -72,6 +72,7 @@ TEST(NaechsterPunkt, TakesTheNearestWithinReach) {
   EXPECT_EQ(naechsterPunkt(made.Z, made.AnzMPs, 290, 100), 2);
   EXPECT_EQ(naechsterPunkt(made.Z, made.AnzMPs, 310, 100), 3);
   EXPECT_EQ(naechsterPunkt(made.Z, made.AnzMPs, 1030, 30), 6);
+  EXPECT_EQ(naechsterPunkt(made.Z, made.AnzMPs, 5, 30), 1);
   EXPECT_EQ(naechsterPunkt(made.Z, made.AnzMPs, 1031, 30), std::nullopt);
   EXPECT_EQ(naechsterPunkt(made.Z, 0, 0, 30), std::nullopt);
   EXPECT_EQ(naechsterPunkt(made.Z, 6, std::numeric_limits<double>::quiet_NaN(), 30), std::nullopt);

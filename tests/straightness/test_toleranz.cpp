@@ -58,6 +58,9 @@ TEST(ZAequidistant, HoldsForEvenDistancesAndForNoPoints) {
   LinienGeometrie moved = evenLine(6);
   moved.Z.at(3) += 0.1;
   EXPECT_FALSE(ZAequidistant(moved));
+  LinienGeometrie shifted = evenLine(6);
+  shifted.Z.at(1) = 1;
+  EXPECT_FALSE(ZAequidistant(shifted));
 }
 
 TEST(AbschnittSuchen, FindsTheSectionWithTheLargestRange) {
@@ -66,6 +69,14 @@ TEST(AbschnittSuchen, FindsTheSectionWithTheLargestRange) {
   EXPECT_EQ(s.result.AbschnittWert, 7);
   EXPECT_EQ(s.result.AbschnittStart, 3);
   EXPECT_EQ(s.result.AbschnittLaenge, 1000);
+}
+
+TEST(AbschnittSuchen, ForgetsTheSectionOfTheLastDrawing) {
+  AchsenAbschnitt result{.AbschnittWert = 100, .AbschnittLaenge = 1, .AbschnittStart = 5};
+  ASSERT_TRUE(AbschnittSuchen(counted({0, 1, 3, 2}), 500, section(500), result));
+  EXPECT_EQ(result.AbschnittWert, 2);
+  EXPECT_EQ(result.AbschnittLaenge, 500);
+  EXPECT_EQ(result.AbschnittStart, 2);
 }
 
 TEST(AbschnittSuchen, TakesTheFirstOfEqualSections) {

@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "gerad_stand.h"
+#include "straightness/achsen_bereich.h"
 #include "straightness/ui/gerad_starter.h"
 
 namespace korvin {
@@ -98,6 +99,20 @@ TEST_F(Data, SwitchesOfAFileArePressedAndSeen) {
   EXPECT_TRUE(keyShown("REF1"));
   EXPECT_TRUE(pressed("XNZOOM"));
   EXPECT_TRUE(shown("PanelXWertZoom"));
+}
+
+TEST_F(Data, KindOfRangeOfAFileIsPressedOnItsBar) {
+  show();
+  for (const std::int16_t kind : {BereichsartHAND, BereichsartTOL, BereichsartAUTO}) {
+    series().X.Bereichsart = kind;
+    series().Y.Bereichsart = BereichsartAUTO;
+    click("ISO");
+    KeyToolBar& x = bar("tbrXBereich");
+    EXPECT_EQ(x.isPressed(QStringLiteral("AUTO")), kind == BereichsartAUTO);
+    EXPECT_EQ(x.isPressed(QStringLiteral("HAND")), kind == BereichsartHAND);
+    EXPECT_EQ(x.isPressed(QStringLiteral("TOL")), kind == BereichsartTOL);
+    EXPECT_TRUE(bar("tbrYBereich").isPressed(QStringLiteral("AUTO")));
+  }
 }
 
 TEST_F(Data, OlderFileAsksAndCountsAsChanged) {

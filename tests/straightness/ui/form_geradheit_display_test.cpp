@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QSignalSpy>
 
 #include "gerad_stand.h"
 
@@ -159,6 +160,48 @@ TEST_F(Display, RangeBarsAppearAndTheirKeysSetTheRange) {
   EXPECT_FALSE(shown("tbrYBereich"));
 }
 
+TEST_F(Display, WordsOfThePanelsAndBarsAreThere) {
+  show();
+  EXPECT_EQ(text("lblEinheitX"), "[mm]");
+  EXPECT_EQ(text("lblEinheitY"), "[mm]");
+  EXPECT_EQ(text("lblEinheitXZoom"), "[mm]");
+  EXPECT_EQ(text("PanelLabelMP"), "D7166");
+  EXPECT_EQ(text("lblDistanz"), "D7540");
+  EXPECT_EQ(text("lblDistanzVon"), "/");
+  for (const char* each : {"tbrXBereich", "tbrYBereich"}) {
+    EXPECT_EQ(utf8Text(bar(each).button(QStringLiteral("AUTO"))->toolTip()), "D7525");
+    EXPECT_EQ(utf8Text(bar(each).button(QStringLiteral("MINUS"))->toolTip()), "D7522");
+  }
+  EXPECT_EQ(utf8Text(diagram("X").findChild<QAction*>(QStringLiteral("BildAlsPng"))->text()), "D7351");
+  QStringList captions;
+  for (const QLabel* each : widget("PanelXStatistik(5)")->parentWidget()->findChildren<QLabel*>())
+    captions += each->text();
+  for (const char* each : {"t D7541", "t D7542", "D5000", "D5001"})
+    EXPECT_TRUE(captions.contains(QString::fromUtf8(each))) << each;
+}
+
+TEST_F(Display, ControlsTellAScreenReaderWhatTheyAre) {
+  show();
+  const auto name = [this](const char* each) { return utf8Text(widget(each)->accessibleName()); };
+  EXPECT_EQ(name("PictureXDiagramm"), "X-D3017");
+  EXPECT_EQ(name("PictureYDiagramm"), "Y-D3017");
+  EXPECT_EQ(name("PanelXStatistik(5)"), "t D7541 D5000");
+  EXPECT_EQ(name("PanelXStatistik(7)"), "t D7541 D5001");
+  EXPECT_EQ(name("PanelYStatistik(6)"), "t D7542 D5000");
+  EXPECT_EQ(name("PanelYStatistik(8)"), "t D7542 D5001");
+  EXPECT_EQ(name("PanelMessPkt"), "D7166");
+  EXPECT_EQ(name("txtDistanz"), "D7540");
+  EXPECT_EQ(name("PointList"), "D7154");
+}
+
+TEST_F(Display, ResultsCanBeMarkedAndCopied) {
+  show();
+  for (int i : {0, 1, 2, 5, 6, 7, 8}) {
+    const QLabel* row = form->findChild<QLabel*>(QStringLiteral("PanelXStatistik(%1)").arg(i));
+    EXPECT_TRUE(row->textInteractionFlags().testFlag(Qt::TextSelectableByMouse)) << i;
+  }
+}
+
 TEST_F(Display, BigNumberTakesTheRoomOfTheOtherDiagram) {
   measureLine();
   click("XNZOOM");
@@ -212,6 +255,19 @@ TEST_F(Display, TableIsShownHiddenAndCopied) {
   EXPECT_EQ(utf8Text(lines.at(1)), "2\t500.0\t0.0200\t-0.0200");
   type(Qt::Key_L, Qt::ControlModifier);
   EXPECT_FALSE(shown("PointList"));
+}
+
+TEST_F(Display, AReadingPaintsTheTableAnewAndKeepsItsMarkedRows) {
+  measureLine();
+  QTest::keyClick(&list(), Qt::Key_A, Qt::ControlModifier);
+  QSignalSpy painted(list().model(), &QAbstractItemModel::dataChanged);
+  QSignalSpy reset(list().model(), &QAbstractItemModel::modelReset);
+  click("ISO");
+  ASSERT_EQ(painted.size(), 1);
+  EXPECT_EQ(painted[0][0].toModelIndex().row(), 0);
+  EXPECT_EQ(painted[0][1].toModelIndex().row(), 5) << "any reading may move the reference line";
+  EXPECT_EQ(reset.size(), 0);
+  EXPECT_EQ(list().selectionModel()->selectedRows().size(), 6);
 }
 
 TEST_F(Display, ARowChosenInTheTableIsTheCurrentPoint) {

@@ -47,6 +47,27 @@ class LineWords : public test::GeradStand, public ::testing::WithParamInterface<
     }
   }
 
+  /// No two controls that show something stand on each other.
+  static void expectNothingCovered(const QWidget& window) {
+    std::vector<const QWidget*> shown;
+    for (const QWidget* each : window.findChildren<QWidget*>()) {
+      const bool leaf = qobject_cast<const QLabel*>(each) || qobject_cast<const QLineEdit*>(each) ||
+                        qobject_cast<const QToolButton*>(each) || qobject_cast<const PictureWidget*>(each) ||
+                        qobject_cast<const PointList*>(each);
+      const auto* label = qobject_cast<const QLabel*>(each);
+      if (leaf && each->isVisibleTo(&window) && !(label && label->text().isEmpty())) shown.push_back(each);
+    }
+    ASSERT_GT(shown.size(), 20U);
+    for (std::size_t i = 0; i < shown.size(); ++i) {
+      const QRect mine(shown[i]->mapTo(&window, QPoint(0, 0)), shown[i]->size());
+      for (std::size_t k = 0; k < i; ++k) {
+        const QRect other(shown[k]->mapTo(&window, QPoint(0, 0)), shown[k]->size());
+        EXPECT_TRUE((mine & other).isEmpty())
+            << utf8Text(shown[i]->objectName()) << " on " << utf8Text(shown[k]->objectName());
+      }
+    }
+  }
+
   test::TestProgramEnd programEnd;
   SqliteDictionary texts{world.system.SpracheSpalte, programEnd};
 };
@@ -57,12 +78,13 @@ TEST_P(LineWords, NothingIsCutOff) {
   EXPECT_LE(form->minimumSizeHint().width(), 1024);
   EXPECT_LE(form->minimumSizeHint().height(), 700) << "room for the desktop's bars";
   expectLabelsFit(*form);
-  click("XNZOOM");
-  settle();
-  expectLabelsFit(*form);
-  click("YNZOOM");
-  settle();
-  expectLabelsFit(*form);
+  expectNothingCovered(*form);
+  for (const char* each : {"XNZOOM", "YNZOOM"}) {
+    click(each);
+    settle();
+    expectLabelsFit(*form);
+    expectNothingCovered(*form);
+  }
 }
 
 TEST_P(LineWords, NothingIsCutOffDuringAnAdaptivePoint) {
