@@ -61,14 +61,19 @@ bool kurveDarueber(const std::vector<AchsenKurve>& kurven, double z) {
       kurven, [z](const AchsenKurve& kurve) { return kurveBei(kurve.werte, z).value_or(0) > 0; });
 }
 
+/// Radius of the circle of a mark.
+double markenRadius(const AchsenRahmen& rahmen) {
+  return letztesZ(rahmen) / 200;
+}
+
 void markeZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen, const AchsenMarke& marke,
                    const std::vector<AchsenKurve>& kurven) {
-  const double radius = letztesZ(rahmen) / 200;
+  const double radius = markenRadius(rahmen);
   surface.circle({marke.z, 0}, radius, {marke.farbe});
   const TextLook look{marke.farbe};
   const double breite = surface.textSize(marke.text, look).width;
-  // Beside the circle on the side where there is room.
-  const bool rechts = marke.z + 2 * radius + breite <= achsenFenster(rahmen).right;
+  // Beside the circle, to the left where it would reach into the margin: letters of lines stand there.
+  const bool rechts = marke.z + 2 * radius + breite <= letztesZ(rahmen);
   const double ort = rechts ? marke.z + 2 * radius : marke.z - 2 * radius;
   // The curve leaves a mark upward or downward; the text stands on the other side.
   const bool unten = kurveDarueber(kurven, rechts ? ort + breite / 2 : ort - breite / 2);
@@ -86,15 +91,15 @@ void linienZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen,
   }
 }
 
-/// The short texts of the lines on one side, moved clear of each other.
-void linienTexteZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen,
-                         const std::vector<AchsenZusatzlinie>& linien, AchsenZusatzlinie::Seite seite) {
+/// The short texts of the lines on one side, moved clear of each other and of the circles of the marks.
+void linienTexteZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen, const AchsenInhalt& inhalt,
+                         AchsenZusatzlinie::Seite seite) {
   const bool rechts = seite == AchsenZusatzlinie::Seite::rechts;
-  const double abstand = 2 * surface.lineWidth().width;
+  const double abstand = 2 * surface.lineWidth().width + (inhalt.marken.empty() ? 0 : markenRadius(rahmen));
   const double z = (rechts ? letztesZ(rahmen) : erstesZ(rahmen)) + abstand;
   std::vector<AchsenText> texte;
   std::vector<double> mitten;
-  for (const AchsenZusatzlinie& linie : linien) {
+  for (const AchsenZusatzlinie& linie : inhalt.linien) {
     if (linie.seite != seite || linie.text.empty() || !(std::fabs(linie.hoehe) <= rahmen.R)) continue;
     mitten.push_back(linie.hoehe);
     // Within the plot they would stand on their own lines.
@@ -169,8 +174,8 @@ void achsenInhaltZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen, c
   surface.setWindow(achsenFenster(rahmen));
   for (const AchsenMarke& marke : inhalt.marken) markeZeichnen(surface, rahmen, marke, inhalt.kurven);
   linienZeichnen(surface, rahmen, inhalt.linien);
-  linienTexteZeichnen(surface, rahmen, inhalt.linien, Seite::links);
-  linienTexteZeichnen(surface, rahmen, inhalt.linien, Seite::rechts);
+  linienTexteZeichnen(surface, rahmen, inhalt, Seite::links);
+  linienTexteZeichnen(surface, rahmen, inhalt, Seite::rechts);
   if (inhalt.cursorZ) surface.line({*inhalt.cursorZ, -rahmen.R}, {*inhalt.cursorZ, rahmen.R}, {FarbeCursor});
   for (const AchsenKurve& kurve : inhalt.kurven) kurveZeichnen(surface, rahmen, kurve);
 }

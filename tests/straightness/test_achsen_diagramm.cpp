@@ -249,6 +249,21 @@ TEST(AchsenPapierBeschriftung, TellsHeightsInTheUnitOfTheRange) {
   EXPECT_EQ(paperTexts(bereichAnpassen(0.02, 1), false, 1)[5], "+ 0.016");
 }
 
+TEST(AchsenPapierBeschriftung, SetsTheRowOfZOneLineBelowTheNumbers) {
+  const std::vector<double> z = {0, 0, 500, 1000};
+  AchsenRahmen frame{.R = 1, .Distanz = 1000, .z = z, .AnzMPs = 3, .einheit = {}};
+  achsenPapierBeschriftung(frame, bereichAnpassen(1, 0), true, 0);
+  test::RecordingSurface surface;
+  achsenRahmenZeichnen(surface, frame);
+  const auto height = [&](const std::string& wanted) {
+    for (const DrawingOp& op : surface.all(Kind::text))
+      if (op.text == wanted) return op.points[0].y;
+    return 0.0;
+  };
+  EXPECT_EQ(height("2"), -1);
+  EXPECT_DOUBLE_EQ(height("500.0"), -1 - surface.textSize("0", {}).height);
+}
+
 TEST(AchsenPapierBeschriftung, ShowsZBelowTheNumbers) {
   const Lines mm = paperTexts(bereichAnpassen(0.02, 0), true, 0);
   EXPECT_EQ(Lines(mm.begin(), mm.begin() + 12), (Lines{"[ MP]", "1", "2", "3", "4", "5 [MP]", "z[mm]", "0.0",
@@ -449,6 +464,33 @@ TEST(AchsenInhaltZeichnen, KeepsTheMarksInsideThePicture) {
       EXPECT_EQ(op.horizontal, HorizontalAnchor::right);
       EXPECT_EQ(op.points[0], (DataPoint{990, 0}));
     }
+  }
+}
+
+TEST(AchsenInhaltZeichnen, KeepsMarksAndLettersOfLinesApart) {
+  // On a large screen the margin would hold the word of the last mark, too.
+  for (const double pixels : {600.0, 2400.0}) {
+    AxisStand axis({0, 0.5, -0.3, 0});
+    axis.series.Info.Auswertung = AuswertungREF;
+    axis.series.Info.SFak = 1;
+    axis.series.Info.ZeigeMittel = axis.series.Info.ZeigeStreuung = axis.series.Info.ZeigeSpanne = true;
+    axis.tolerance(0.01, BezugNull);
+    axis.content = test::RecordingSurface(pixels, pixels / 2);
+    axis.draw();
+    const auto circles = axis.content.all(Kind::circle);
+    ASSERT_EQ(circles.size(), 2U);
+    int letters = 0;
+    for (const DrawingOp& op : axis.content.all(Kind::text)) {
+      if (op.text == "Ref2") {
+        EXPECT_LE(op.points[0].x, 1000 - circles[1].radius);
+        EXPECT_EQ(op.horizontal, HorizontalAnchor::right);
+      } else if (op.text != "Ref1") {
+        ++letters;
+        const double end = op.text == "t" ? 0 : 1000;
+        EXPECT_GT(op.points[0].x, end + circles[1].radius) << op.text;
+      }
+    }
+    EXPECT_EQ(letters, 7);
   }
 }
 
