@@ -54,12 +54,9 @@ double stufeUeber(double wert) {
   return unter < 5 * potenz ? 5 * potenz : 10 * potenz;
 }
 
-double endeDerZeit(const KonvergenzZiel& ziel, std::span<const AdaptVerlauf> verlauf) {
+double endeDerZeit(const KonvergenzZiel& ziel) {
   double ende = std::max(ziel.MaxEnde, KuerzesteZeit);
-  if (!verlauf.empty()) {
-    const double letzte = verlauf.back().sekunden;
-    if (letzte > ende) ende = std::ceil(letzte / Zeitraster) * Zeitraster;
-  }
+  if (ziel.jetzt > ende) ende = std::ceil(ziel.jetzt / Zeitraster) * Zeitraster;
   return ende * Luft;
 }
 
@@ -72,6 +69,7 @@ KonvergenzZiel konvergenzZiel(const AdaptZustand& zustand, const AdaptVorgaben& 
     ziel.MinEnde = zustand.AdaptMinEnde - zustand.AdaptStart;
     ziel.MaxEnde = zustand.AdaptMaxEnde - zustand.AdaptStart;
   }
+  ziel.jetzt = zustand.AdaptLaufzeit;
   return ziel;
 }
 
@@ -82,7 +80,7 @@ KonvergenzRahmen konvergenzRahmen(const KonvergenzZiel& ziel, std::span<const Ad
   KonvergenzRahmen rahmen;
   rahmen.unten = stufeUnter(zeigen(spanne.kleinste));
   rahmen.oben = stufeUeber(zeigen(spanne.groesste));
-  rahmen.ende = endeDerZeit(ziel, verlauf);
+  rahmen.ende = endeDerZeit(ziel);
   rahmen.genauigkeit = {zeigen(ziel.X_Genauigkeit), zeigen(ziel.Y_Genauigkeit)};
   rahmen.MinEnde = ziel.MinEnde;
   rahmen.MaxEnde = ziel.MaxEnde;
@@ -91,9 +89,11 @@ KonvergenzRahmen konvergenzRahmen(const KonvergenzZiel& ziel, std::span<const Ad
   return rahmen;
 }
 
-KonvergenzInhalt konvergenzInhalt(std::span<const AdaptVerlauf> verlauf, std::int16_t Masssystem) {
+KonvergenzInhalt konvergenzInhalt(const KonvergenzZiel& ziel, std::span<const AdaptVerlauf> verlauf,
+                                  std::int16_t Masssystem) {
   KonvergenzInhalt inhalt;
   inhalt.muster = Masssystem == MasssystemInch ? "0.00" : "0.0000";
+  inhalt.jetzt = ziel.jetzt;
   inhalt.sekunden.reserve(verlauf.size());
   for (auto& werte : inhalt.K) werte.reserve(verlauf.size());
   for (const AdaptVerlauf& stand : verlauf) {

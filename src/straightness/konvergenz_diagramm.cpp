@@ -250,6 +250,9 @@ void konvergenzRahmenZeichnen(DrawingSurface& surface, const KonvergenzRahmen& r
 
 void konvergenzInhaltZeichnen(DrawingSurface& surface, const KonvergenzRahmen& rahmen,
                               const KonvergenzInhalt& inhalt) {
+  if (inhalt.jetzt > 0 && inhalt.jetzt <= rahmen.ende)
+    surface.line({inhalt.jetzt, std::log10(rahmen.unten)}, {inhalt.jetzt, std::log10(rahmen.oben)},
+                 {FarbeKonvergenzJetzt});
   for (std::size_t achse = 0; achse < 2; ++achse)
     kurveZeichnen(surface, kurve(rahmen, inhalt, achse), Achsenfarben.at(achse));
   legendeZeichnen(surface, rahmen, inhalt);

@@ -13,6 +13,7 @@ inline constexpr Farbe FarbeKonvergenzX = 0xA85A00;     ///< blue
 inline constexpr Farbe FarbeKonvergenzY = 0x1E7AE6;     ///< orange
 inline constexpr Farbe FarbeKonvergenzZiel = 0x3C8C1E;  ///< both axes' requirement, green
 inline constexpr Farbe FarbeKonvergenzFeld = 0xE9F6E6;  ///< where a point is accepted
+inline constexpr Farbe FarbeKonvergenzJetzt = 0xA8A8A8;
 inline constexpr Farbe FarbeKonvergenzGitter = 0xE0E0E0;
 inline constexpr Farbe FarbeKonvergenzZeit = 0x606060;  ///< marks of the times
 
@@ -31,6 +32,7 @@ struct KonvergenzRahmen {
 
 /// The half widths of both axes over time.
 struct KonvergenzInhalt {
+  double jetzt = 0;  ///< time of the last answer
   std::vector<double> sekunden;
   std::array<std::vector<double>, 2> K;  ///< of X and Y, in the unit shown; as many as there are times
   std::string muster;                    ///< of their numbers in the legend, "0.0000"
@@ -44,8 +46,8 @@ struct KonvergenzInhalt {
 /// Clears the picture and draws grid, lines, marks and labels. Sets the window of `surface`; its margins
 /// follow the size of the texts.
 void konvergenzRahmenZeichnen(DrawingSurface& surface, const KonvergenzRahmen& rahmen);
-/// Draws curves and legend, on the window that the frame has set. A half width beyond the range lies on its
-/// edge.
+/// Draws curves, legend and a line at the present time, which runs on where samples fail to come; on the
+/// window that the frame has set. A half width beyond the range lies on its edge.
 void konvergenzInhaltZeichnen(DrawingSurface& surface, const KonvergenzRahmen& rahmen,
                               const KonvergenzInhalt& inhalt);
 

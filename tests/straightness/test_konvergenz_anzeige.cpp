@@ -26,11 +26,13 @@ TEST(KonvergenzZiel, TimesCountFromTheStartOfThePoint) {
   state.AdaptStart = 40000;
   state.AdaptMinEnde = 40010;
   state.AdaptMaxEnde = 40018.5;
+  state.AdaptLaufzeit = 3.25;
   const KonvergenzZiel aim = konvergenzZiel(state, goals);
   EXPECT_EQ(aim.X_Genauigkeit, 0.01);
   EXPECT_EQ(aim.Y_Genauigkeit, 0.02);
   EXPECT_EQ(aim.MinEnde, 10);
   EXPECT_EQ(aim.MaxEnde, 18.5) << "extended";
+  EXPECT_EQ(aim.jetzt, 3.25);
 }
 
 TEST(KonvergenzZiel, BeforeTheFirstPointTimesAreThoseThatAreSet) {
@@ -113,24 +115,30 @@ TEST(KonvergenzRahmen, IsInMilWithInch) {
   EXPECT_DOUBLE_EQ(frame.oben, 20);
 }
 
-TEST(KonvergenzRahmen, TimeReachesBeyondASampleAfterTheEnd) {
+TEST(KonvergenzRahmen, TimeReachesBeyondAnAnswerAfterTheEnd) {
   const KonvergenzZiel aim{0.01, 0.01, 10, 12};
-  EXPECT_EQ(frameOf(aim, {{11.9, {0.1, 0.1}}}).ende, frameOf(aim).ende);
-  const double late = frameOf(aim, {{13.2, {0.1, 0.1}}}).ende;
-  EXPECT_GT(late, 15);
-  EXPECT_EQ(frameOf(aim, {{14.9, {0.1, 0.1}}}).ende, late) << "moves by steps";
+  const auto endAt = [&](double now) {
+    KonvergenzZiel later = aim;
+    later.jetzt = now;
+    return frameOf(later).ende;
+  };
+  EXPECT_EQ(endAt(11.9), frameOf(aim).ende);
+  EXPECT_GT(endAt(13.2), 15);
+  EXPECT_EQ(endAt(14.9), endAt(13.2)) << "moves by steps";
+  EXPECT_GT(endAt(15.1), endAt(14.9));
   EXPECT_GT(frameOf({0.01, 0.01, 10, 18}).ende, 18) << "extended";
   EXPECT_GT(frameOf({0.01, 0.01, 0, 0}).ende, 0) << "a file without times";
 }
 
 TEST(KonvergenzInhalt, HasTheCourseInTheUnitShown) {
   const std::vector<AdaptVerlauf> course = {{0.4, {0.0254, 0.0508}}, {0.6, {0.0127, 0.01}}};
-  const KonvergenzInhalt mm = konvergenzInhalt(course, metric);
+  const KonvergenzInhalt mm = konvergenzInhalt({0.01, 0.01, 10, 12, 0.8}, course, metric);
   EXPECT_EQ(mm.sekunden, (std::vector<double>{0.4, 0.6}));
   EXPECT_EQ(mm.K[0], (std::vector<double>{0.0254, 0.0127}));
   EXPECT_EQ(mm.K[1], (std::vector<double>{0.0508, 0.01}));
   EXPECT_EQ(mm.muster, "0.0000");
-  const KonvergenzInhalt mil = konvergenzInhalt(course, inch);
+  EXPECT_EQ(mm.jetzt, 0.8);
+  const KonvergenzInhalt mil = konvergenzInhalt({}, course, inch);
   EXPECT_DOUBLE_EQ(mil.K[0][0], 1);
   EXPECT_DOUBLE_EQ(mil.K[1][0], 2);
   EXPECT_EQ(mil.muster, "0.00");

@@ -132,6 +132,15 @@ TEST_F(KonvergenzDiagramm, HeightsStandAtTheirLogarithms) {
   EXPECT_NE(text("[s]"), nullptr);
 }
 
+TEST_F(KonvergenzDiagramm, TimesStandBelowThePlot) {
+  draw();
+  for (const char* each : {"0", "5", "10", "[s]"}) {
+    ASSERT_NE(text(each), nullptr) << each;
+    EXPECT_LT(roomOf(*text(each)).top, std::log10(frame.unten)) << each;
+  }
+  EXPECT_EQ(text("5")->points[0].x, 5);
+}
+
 TEST_F(KonvergenzDiagramm, EqualRequirementsAreOneLineWithTheFieldWhereThePointIsAccepted) {
   draw();
   const auto aim = lines(FarbeKonvergenzZiel);
@@ -208,6 +217,22 @@ TEST_F(KonvergenzDiagramm, CurvesRunFromSampleToSampleWithADiscOnTheLast) {
   EXPECT_EQ(discs[0].points[0], (DataPoint{3, -2}));
   EXPECT_NE(text("X \u00B10.0100"), nullptr);
   EXPECT_NE(text("Y \u00B10.0050"), nullptr);
+}
+
+TEST_F(KonvergenzDiagramm, ALineStandsAtThePresentTime) {
+  const auto atNow = [&] {
+    const auto all = surface.all(Kind::line);
+    return std::count_if(all.begin(), all.end(), [&](const DrawingOp& op) {
+      return op.colour == FarbeKonvergenzJetzt && op.points[0].x == content.jetzt &&
+             op.points[0].x == op.points[1].x && op.points[0].y == std::log10(frame.unten) &&
+             op.points[1].y == std::log10(frame.oben);
+    });
+  };
+  draw();
+  EXPECT_EQ(atNow(), 0) << "before the first answer";
+  content.jetzt = 4.5;
+  draw();
+  EXPECT_EQ(atNow(), 1);
 }
 
 TEST_F(KonvergenzDiagramm, AHalfWidthBeyondTheRangeLiesOnItsEdge) {

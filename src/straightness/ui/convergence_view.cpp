@@ -89,7 +89,6 @@ ConvergenceView::ConvergenceView(const PictureDesk& desk, QWidget* parent)
   titel_->setFont(themeFont(1.0, true));
   zu_->setObjectName(QStringLiteral("KonvergenzZu"));
   zu_->setAutoRaise(true);
-  zu_->setFocusPolicy(Qt::TabFocus);
   zu_->setIcon(icon(QStringLiteral("ICONZU")));
   zu_->setIconSize({scaled(handleSide), scaled(handleSide)});
   connect(zu_, &QToolButton::clicked, this, [this] {
@@ -121,9 +120,9 @@ void ConvergenceView::setTexte(Dictionary& dictionary) {
 void ConvergenceView::zeige(const AdaptivMessung& messung, const AdaptVorgaben& vorgaben,
                             std::int16_t Masssystem) {
   if (isHidden()) return;
-  bild_->setPicture(konvergenzRahmen(konvergenzZiel(messung.zustand(), vorgaben), messung.verlauf(),
-                                     Masssystem, gefordert_),
-                    konvergenzInhalt(messung.verlauf(), Masssystem));
+  const KonvergenzZiel ziel = konvergenzZiel(messung.zustand(), vorgaben);
+  bild_->setPicture(konvergenzRahmen(ziel, messung.verlauf(), Masssystem, gefordert_),
+                    konvergenzInhalt(ziel, messung.verlauf(), Masssystem));
 }
 
 }  // namespace korvin

@@ -12,6 +12,7 @@ ListPane::ListPane(PointList* list, ConvergenceView* view, QWidget* parent)
   view_->setSizePolicy(keepsRoom);
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(0, 0, 0, 0);
+  // The later one lies on top.
   grid->addWidget(list_, 0, 0);
   grid->addWidget(view_, 0, 0);
   arrange();
@@ -43,7 +44,6 @@ void ListPane::arrange() {
   // The covered table stays as it is, and keeps the keyboard.
   list_->setVisible(listWanted_);
   view_->setVisible(view);
-  if (view) view_->raise();
   setVisible(listWanted_ || view);
 }
 

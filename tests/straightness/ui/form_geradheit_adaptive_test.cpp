@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QSplitter>
 #include <QTimer>
 #include <cmath>
 
@@ -248,6 +249,57 @@ TEST_F(AdaptiveWindow, TheViewCoversTheTableAndMovesNothing) {
   EXPECT_FALSE(view().isAncestorOf(form->childAt(middle)));
   EXPECT_TRUE(list().isAncestorOf(form->childAt(middle)));
   EXPECT_EQ(form->size(), QSize(1024, 768));
+}
+
+TEST_F(AdaptiveWindow, AlsoWithTheTableAsLowAsItGetsNothingMoves) {
+  show();
+  auto* column = form->findChild<QSplitter*>();
+  column->setSizes({10000, 0});
+  settle();
+  const QList<int> before = column->sizes();
+  ASSERT_LT(before.at(1), before.at(0) / 2);
+  start();
+  run(1);
+  ASSERT_TRUE(viewShown());
+  EXPECT_EQ(column->sizes(), before);
+  EXPECT_GE(view().height(), view().minimumSizeHint().height());
+}
+
+TEST_F(AdaptiveWindow, ADoubleClickOnTheLineOpensTheServicePanel) {
+  show();
+  start();
+  EXPECT_FALSE(shown("ServicePanel"));
+  QTest::mouseDClick(widget("lblMSCommInput(1)"), Qt::LeftButton);
+  EXPECT_TRUE(shown("ServicePanel"));
+}
+
+TEST_F(AdaptiveWindow, ABlockedBeamLetsThePointWaitUntilItIsCancelled) {
+  show();
+  start();
+  run(1);
+  const auto samples = erfassung().adaptMessung().zustand().AdaptN;
+  intensity = 5;
+  run(12);
+  EXPECT_TRUE(sampling());
+  EXPECT_TRUE(viewShown());
+  EXPECT_LE(erfassung().adaptMessung().zustand().AdaptN, samples + 1);
+  EXPECT_TRUE(line1().find("MA-Zeit:   13.") != std::string::npos) << "time goes on: " << line1();
+  click("XYMP1");
+  run(0.5);
+  EXPECT_FALSE(sampling());
+  EXPECT_EQ(dialogs, 0);
+}
+
+TEST_F(AdaptiveWindow, ALostLinkEndsThePointWithBarAndView) {
+  show();
+  start();
+  run(1);
+  world.head.behaviour = [](char) { return std::string(); };
+  run(15);
+  EXPECT_FALSE(sampling());
+  EXPECT_FALSE(viewShown());
+  EXPECT_TRUE(istLeer(x(1)));
+  EXPECT_TRUE(series().Adapt.AutoAdapt);
 }
 
 TEST_F(AdaptiveWindow, TheTableKeepsTheKeyboardUnderTheView) {
