@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "frame/bereich.h"
 #include "frame/drawing_surface.h"
 #include "straightness/mehr_punkt.h"
 
@@ -30,7 +29,9 @@ struct MehrPunktBild {
   std::optional<DataPoint> mitte;     ///< the centre, in the same unit
   double radius = 0;                  ///< of the fitted circle; 0 without one
   DataPoint ursprung;                 ///< middle of the picture
-  DiagrammBereich bereich{};          ///< what the picture holds around it, to every side
+  double bereich = 1;                 ///< what the picture holds around it, to every side
+  std::string bereichText;            ///< the same as text: "±0.1234 mm"
+  std::vector<std::string> hinweise;  ///< of each position: "MP 2", its X and its Y
   std::string radiusText;             ///< "r 0.1234 mm"; empty without a circle
 };
 

@@ -53,8 +53,12 @@ MehrPunktTexte mehrPunktTexte(const MehrPunkt& messung, std::int16_t punkt, std:
   return texte;
 }
 
+const char* wertMuster(std::int16_t Masssystem) {
+  return Masssystem == MasssystemInch ? "0.00" : "0.0000";
+}
+
 std::string mehrPunktWert(double mm, std::int16_t Masssystem) {
-  return formatNumber(anzeigeWert(mm, Masssystem), Masssystem == MasssystemInch ? "0.00" : "0.0000");
+  return formatNumber(anzeigeWert(mm, Masssystem), wertMuster(Masssystem));
 }
 
 }  // namespace korvin

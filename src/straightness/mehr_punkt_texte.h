@@ -25,7 +25,9 @@ struct MehrPunktTexte {
 MehrPunktTexte mehrPunktTexte(const MehrPunkt& messung, std::int16_t punkt, std::int16_t Masssystem,
                               Dictionary& dictionary);
 
-/// A length in mm as the frame shows it: mm with four decimals, mil with two.
+/// Pattern of the frame's numbers: mm with four decimals, mil with two.
+const char* wertMuster(std::int16_t Masssystem);
+/// A length in mm as the frame shows it, in mm or mil.
 std::string mehrPunktWert(double mm, std::int16_t Masssystem);
 
 }  // namespace korvin

@@ -23,7 +23,6 @@ constexpr std::int16_t TextServiceZeile = 7109;
 constexpr std::int16_t TextService = 7200;
 constexpr std::int16_t TextSchieber = 7201;
 constexpr std::int16_t TextTelegramme = 7204;
-constexpr std::int16_t TextBereit = 7220;
 constexpr std::int16_t TextEinzel = 7221;
 constexpr std::int16_t TextSchnell = 7223;
 constexpr std::int16_t TextSchliesst = 7225;

@@ -36,7 +36,9 @@ struct TastenZeile {
   bool later = false;    ///< shown, but without its job yet: never enabled
 };
 
-/// Number of the text of a running measurement in the line that says what the window is doing.
+/// Numbers of texts in the line that says what the window is doing: nothing but polling, a running
+/// measurement.
+inline constexpr std::int16_t TextBereit = 7220;
 inline constexpr std::int16_t TextLaufend = 7222;
 
 /// The shell of every measuring window: toolbar, link indicator, head panel, service line and panel, closing

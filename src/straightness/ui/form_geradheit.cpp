@@ -21,6 +21,7 @@ namespace {
 using Kind = KeyToolBar::Kind;
 
 constexpr std::int16_t TextUngueltig = 6013;
+constexpr std::int16_t TextMehrPunkt = 2100;
 constexpr std::array<const char*, 4> StatistikTasten = {"x", "s", "R", "t"};
 
 /// The toolbar, in its order; a line without a key is a gap between groups.
@@ -53,7 +54,7 @@ constexpr std::array<TastenZeile, 33> Tasten = {{{"NEU", "ICON1", Kind::push, "C
                                                  {"XYMP1", "ICON81", Kind::check, "F5", 7173},
                                                  {"XYMPN", "ICONXYMPN", Kind::check, "F6", 7174},
                                                  {"XYMPNN", "ICONXYMPNN", Kind::check, "F7", 7175},
-                                                 {"XYMPKMP", "ICONXYMPKMP", Kind::check, "", 2100, true},
+                                                 {"XYMPKMP", "ICONXYMPKMP", Kind::check, "", 2100},
                                                  {"AUTO_MESSRICHTUNG", "ICON91", Kind::push, "F10", 7509},
                                                  {},
                                                  {"HILFE", "ICONHILFE", Kind::push, "F1", 7176}}};
@@ -138,7 +139,18 @@ void FormGeradheit::layoutAnlegen() {
   wertfelder = panels_->werte() + QVector<ValuePanel*>{x_.bild->wert(), y_.bild->wert()};
 
   mitteAnordnen(*links, 62, *panels_, *unten_);
+  mehrPunktAnlegen(links);
   liste_->setFocus();
+}
+
+void FormGeradheit::mehrPunktAnlegen(QWidget* bilder) {
+  rahmen_ = new MultiPointFrame(bildAblage(), bilder, mitte());
+  mehrPunktAnsicht_ = std::make_unique<MultiPointHost>(MultiPointPlace{
+      *this, tasten(), *rahmen_, {bilder, liste_}, [this](bool offen) { mehrPunktOffen(offen); }});
+  mehrPunkt_ = std::make_unique<MehrPunktAblauf>(
+      MehrPunktUmgebung{p_.zyklus, p_.erfassung, zyklus(), *this, *mehrPunktAnsicht_});
+  rahmen_->onButton = [this](int index) { mehrPunkt_->CmdMehrPunkt(index); };
+  rahmen_->onPositions = [this](std::int16_t positionen) { mehrPunkt_->setMehrPunktSoll(positionen); };
 }
 
 AxisArea* FormGeradheit::bildAnlegen(const QString& name, Achse& achse) {
@@ -176,6 +188,7 @@ void FormGeradheit::beschriften() {
   panels_->setTexte(dictionary(), einheit);
   x_.bild->setTexte(dictionary(), einheit);
   y_.bild->setTexte(dictionary(), einheit);
+  rahmen_->setTexte(dictionary(), einheit);
   tasten().setWords(QStringLiteral("XYAMPL"), QStringLiteral("XY-") + dicText(3061));
 }
 
@@ -190,6 +203,7 @@ void FormGeradheit::ersteAktivierung() {
 }
 
 void FormGeradheit::datenZeigen() {
+  mehrPunkt_->verwerfen();
   p_.erfassung.filterVorgeben();
   einstellungenZeigen();
 }
@@ -301,6 +315,9 @@ void FormGeradheit::taste(const QString& key, bool gedrueckt) {
     neuZeichnen(false);
   } else if (auswertungsTaste(key) || anzeigeTaste(key, gedrueckt)) {
     neuZeichnen(false);
+  } else if (key == QLatin1String("XYMPKMP")) {
+    mehrPunkt_->XYMPKMP();
+    tasten().setPressed(key, mehrPunkt_->offen());
   } else {
     DatenFenster::taste(key, gedrueckt);
   }
@@ -374,6 +391,24 @@ void FormGeradheit::M_Konvergenz(bool an) {
   M_Konvergenz_->setChecked(an);
   unten_->setViewWanted(an);
   konvergenzZeigen();
+}
+
+// ---- Multi-point measuring ----
+
+void FormGeradheit::mehrPunktOffen(bool offen) {
+  zmmod(!offen && tasten().isPressed(QStringLiteral("ZMMOD")));
+  for (Achse* achse : {&x_, &y_})
+    if (offen && achse->messung.NumZoom) M_NumZoom(*achse);
+  betriebZeigen();
+}
+
+std::int16_t FormGeradheit::betriebText() {
+  const std::int16_t text = DatenFenster::betriebText();
+  return text == TextBereit && mehrPunkt_->offen() ? TextMehrPunkt : text;
+}
+
+bool FormGeradheit::schliessenErlaubt() {
+  return mehrPunkt_->darfSchliessen([this] { return DatenFenster::schliessenErlaubt(); });
 }
 
 // ---- Points moved along the line ----

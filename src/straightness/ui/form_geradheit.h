@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -17,6 +18,7 @@
 #include "straightness/ui/line_panels.h"
 #include "straightness/ui/line_table_model.h"
 #include "straightness/ui/list_pane.h"
+#include "straightness/ui/multi_point_host.h"
 
 namespace korvin {
 
@@ -50,6 +52,8 @@ class FormGeradheit : public DatenFenster {
   void einstellungenZeigen() override;
   std::string titel() override;
   std::string bildName() const override { return "XYZ"; }
+  std::int16_t betriebText() override;
+  bool schliessenErlaubt() override;
 
  private:
   /// One axis: what it is made of, what was computed of it, and where it is shown.
@@ -60,6 +64,7 @@ class FormGeradheit : public DatenFenster {
   };
 
   void layoutAnlegen();
+  void mehrPunktAnlegen(QWidget* bilder);
   AxisArea* bildAnlegen(const QString& name, Achse& achse);
   void menusAnlegen();
   void beschriften();
@@ -76,6 +81,7 @@ class FormGeradheit : public DatenFenster {
   void M_NumZoom(Achse& achse);
   void M_Gitter();
   void M_Konvergenz(bool an);
+  void mehrPunktOffen(bool offen);
 
   // ---- Points moved along the line ----
 
@@ -103,6 +109,9 @@ class FormGeradheit : public DatenFenster {
   ConvergenceView* konvergenz_ = nullptr;
   ListPane* unten_ = nullptr;
   LinePanels* panels_ = nullptr;
+  MultiPointFrame* rahmen_ = nullptr;
+  std::unique_ptr<MultiPointHost> mehrPunktAnsicht_;
+  std::unique_ptr<MehrPunktAblauf> mehrPunkt_;
   QAction* M_xNumZoom_ = nullptr;
   QAction* M_yNumZoom_ = nullptr;
   QAction* M_Gitter_ = nullptr;
