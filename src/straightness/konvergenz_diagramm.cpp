@@ -250,7 +250,7 @@ void konvergenzRahmenZeichnen(DrawingSurface& surface, const KonvergenzRahmen& r
 
 void konvergenzInhaltZeichnen(DrawingSurface& surface, const KonvergenzRahmen& rahmen,
                               const KonvergenzInhalt& inhalt) {
-  if (inhalt.jetzt > 0 && inhalt.jetzt <= rahmen.ende)
+  if (inhalt.jetzt > 0)
     surface.line({inhalt.jetzt, std::log10(rahmen.unten)}, {inhalt.jetzt, std::log10(rahmen.oben)},
                  {FarbeKonvergenzJetzt});
   for (std::size_t achse = 0; achse < 2; ++achse)

@@ -9,6 +9,7 @@
 #include <cmath>
 
 #include "frame/ui/mouse_pointer.h"
+#include "frame/ui/qt_colour.h"
 #include "gerad_stand.h"
 
 namespace korvin {
@@ -50,6 +51,16 @@ class AdaptiveWindow : public test::GeradStand {
   QProgressBar& progress() { return *form->findChild<QProgressBar*>(QStringLiteral("AdaptProgress")); }
   ConvergenceView& view() { return *form->findChild<ConvergenceView*>(); }
   bool viewShown() { return shown("FrmKonvergenz"); }
+  /// How many pixels of the live view have a colour.
+  int pixels(Farbe colour) {
+    const QImage drawn =
+        form->findChild<PictureKonvergenz*>()->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    int found = 0;
+    for (int row = 0; row < drawn.height(); ++row)
+      for (int column = 0; column < drawn.width(); ++column)
+        found += drawn.pixel(column, row) == qColour(colour).rgb() ? 1 : 0;
+    return found;
+  }
   double x(std::size_t point) { return series().X.Wert.at(point); }
   std::string line1() { return text("lblMSCommInput(1)"); }
   /// Answers the failure dialog when it comes.
@@ -361,6 +372,22 @@ TEST_F(AdaptiveWindow, WithoutTheTableTheViewKeepsItsPlaceBetweenThePoints) {
   EXPECT_GT(widget("PanelxWertNormal")->height(), panels) << "the panels take the place";
 }
 
+TEST_F(AdaptiveWindow, BroughtBackTheViewShowsWhatIsKnown) {
+  set("KonvergenzAnzeige", "0");
+  show();
+  entry("M_PunktListe")->trigger();
+  entry("M_Konvergenz")->trigger();
+  settle();
+  EXPECT_GT(pixels(FarbeKonvergenzFeld), 200) << "where the first point will be accepted";
+  entry("M_Konvergenz")->trigger();
+  start();
+  ASSERT_TRUE(until([this] { return !sampling(); }, 8));
+  EXPECT_EQ(pixels(FarbeKonvergenzX), 0);
+  entry("M_Konvergenz")->trigger();
+  settle();
+  EXPECT_GT(pixels(FarbeKonvergenzX), 20) << "the course of the last point";
+}
+
 TEST_F(AdaptiveWindow, WithoutAdaptiveMeasuringThereIsNoViewAndNoPlaceForIt) {
   set("AutoAdapt", "0");
   show();
@@ -378,18 +405,9 @@ TEST_F(AdaptiveWindow, TheViewDrawsTheCourseAndTellsItUnderThePointer) {
   start();
   run(3);
   auto& picture = *form->findChild<PictureKonvergenz*>();
-  const QImage drawn = picture.grab().toImage().convertToFormat(QImage::Format_RGB32);
-  const auto count = [&](Farbe farbe) {
-    const QColor colour(farbe & 0xFF, (farbe >> 8) & 0xFF, (farbe >> 16) & 0xFF);
-    int found = 0;
-    for (int row = 0; row < drawn.height(); ++row)
-      for (int column = 0; column < drawn.width(); ++column)
-        found += drawn.pixel(column, row) == colour.rgb() ? 1 : 0;
-    return found;
-  };
-  EXPECT_GT(count(FarbeKonvergenzX), 20);
-  EXPECT_GT(count(FarbeKonvergenzY), 20);
-  EXPECT_GT(count(FarbeKonvergenzFeld), 200);
+  EXPECT_GT(pixels(FarbeKonvergenzX), 20);
+  EXPECT_GT(pixels(FarbeKonvergenzY), 20);
+  EXPECT_GT(pixels(FarbeKonvergenzFeld), 200);
   const auto& last = erfassung().adaptMessung().verlauf().back();
   const QPoint place = picture.placeOf({last.sekunden, -2})->toPoint();
   QMouseEvent move(QEvent::MouseMove, place, picture.mapToGlobal(place), Qt::NoButton, Qt::NoButton, {});
