@@ -2,14 +2,11 @@
 
 #include <cmath>
 #include <cstdint>
-#include <memory>
 #include <random>
 
 #include "frame/leerwert.h"
-#include "korvin-head/head_model.h"
-#include "korvin-head/head_protocol.h"
 #include "straightness/erfassung.h"
-#include "support/recording_view.h"
+#include "support/head_on_clock.h"
 
 namespace korvin::test {
 
@@ -43,27 +40,63 @@ struct StudyResult {
   double share(int within) const { return static_cast<double>(within) / accepted; }
 };
 
-/// Adaptive points of a line, measured by the program's own cycle over its own link with the virtual head in
-/// process, on the tests' clock: hours of measuring in seconds. The true position is another one for each
-/// point. The same seed gives the same result.
+/// What came of one point.
+struct StudyPoint {
+  bool accepted = false;  ///< else it ended in the failure dialog
+  double offX = 0;        ///< of an accepted mean, mm from the true position
+  double offY = 0;
+  double seconds = 0;
+  int samples = 0;
+};
+
+/// Adaptive points of a line, measured by the program's own cycle over its own link, with the settings that
+/// are stored at the start.
+class AdaptivePoints {
+ public:
+  explicit AdaptivePoints(HeadOnClock& head) : head_(head) {
+    task_.ersteAktivierung();
+    cycle_.M_KVNOnline();
+  }
+
+  AdaptVorgaben& vorgaben() { return formgera_.reihe().Adapt; }
+
+  /// Measures one point where the beam is.
+  StudyPoint measure() {
+    GeradReihe& series = formgera_.reihe();
+    series.Linie.AktMP = 1;
+    series.X.Wert.at(1) = Leerwert;
+    while (!cycle_.adaptiv()) {
+      cycle_.anfordern('M');
+      head_.world.clock.advance(0.1);
+    }
+    while (cycle_.adaptiv()) head_.world.clock.advance(0.05);
+    const AdaptZustand& state = task_.adaptMessung().zustand();
+    return {!istLeer(series.X.Wert.at(1)), series.X.Wert.at(1) - head_.spot.xMm,
+            series.Y.Wert.at(1) - head_.spot.yMm, state.AdaptLaufzeit, state.AdaptN};
+  }
+
+ private:
+  HeadOnClock& head_;
+  FORMGERA formgera_;
+  GeradErfassung task_{
+      {head_.world.messages, head_.world.dictionary, head_.world.profil, head_.world.system, formgera_}};
+  RecordingView view_;
+  Messzyklus cycle_{head_.world.surroundings(), head_.world.head, task_, view_};
+};
+
+/// Adaptive points by what is asked, with the virtual head in process. The true position is another one for
+/// each point. The same seed gives the same result.
 class AdaptiveStudy {
  public:
   AdaptiveStudy(const StudyCase& asked, std::uint64_t seed)
-      : generator_(seed),
-        model_(headOf(asked, seed), [this](const head::Moment&) { return spot_; }),
-        asked_(asked) {
-    world_.system.DbPfad = "/nowhere/korvin.mdb";
-    task_.ersteAktivierung();
-    AdaptVorgaben& adapt = formgera_.reihe().Adapt;
-    adapt = {.Beta5 = !asked.onePercent,
-             .Beta1 = asked.onePercent,
-             .X_Genauigkeit = asked.X_Genauigkeit,
-             .Y_Genauigkeit = asked.Y_Genauigkeit,
-             .MessZeitMin = asked.MessZeitMin,
-             .MessZeitMax = asked.MessZeitMax,
-             .AutoAdapt = true};
-    world_.head.behaviour = [this](char command) { return answer(command); };
-    cycle_.M_KVNOnline();
+      : generator_(seed), head_(asked.noiseUm, seed + 1), asked_(asked) {
+    points_.vorgaben() = {.Beta5 = !asked.onePercent,
+                          .Beta1 = asked.onePercent,
+                          .X_Genauigkeit = asked.X_Genauigkeit,
+                          .Y_Genauigkeit = asked.Y_Genauigkeit,
+                          .MessZeitMin = asked.MessZeitMin,
+                          .MessZeitMax = asked.MessZeitMax,
+                          .AutoAdapt = true};
   }
 
   StudyResult measure(int points) {
@@ -75,54 +108,29 @@ class AdaptiveStudy {
   }
 
  private:
-  static head::HeadProperties headOf(const StudyCase& asked, std::uint64_t seed) {
-    head::HeadProperties properties;
-    properties.noiseUm = asked.noiseUm;
-    properties.seed = seed + 1;
-    return properties;
-  }
-
-  std::string answer(char command) {
-    const head::Request request{'0', world_.head.filters.back(), command};
-    world_.head.delay = 0.002 + model_.answerSeconds(request);
-    return head::answerFrame(model_.answer(request, 'K', world_.clock.elapsed()), world_.head.modulus);
-  }
-
   /// Measures one point and counts what came of it.
   void point(StudyResult& result) {
     std::uniform_real_distribution<double> place(-0.3, 0.3);
-    spot_ = {place(generator_), place(generator_)};
-    GeradReihe& series = formgera_.reihe();
-    series.Linie.AktMP = 1;
-    series.X.Wert.at(1) = Leerwert;
-    while (!cycle_.adaptiv()) {
-      cycle_.anfordern('M');
-      world_.clock.advance(0.1);
-    }
-    while (cycle_.adaptiv()) world_.clock.advance(0.05);
-    if (istLeer(series.X.Wert.at(1))) {
+    head_.spot = {place(generator_), place(generator_)};
+    const StudyPoint measured = points_.measure();
+    if (!measured.accepted) {
       ++result.failed;
       return;
     }
     ++result.accepted;
-    const bool x = std::abs(series.X.Wert.at(1) - spot_.xMm) <= asked_.X_Genauigkeit;
-    const bool y = std::abs(series.Y.Wert.at(1) - spot_.yMm) <= asked_.Y_Genauigkeit;
+    const bool x = std::abs(measured.offX) <= asked_.X_Genauigkeit;
+    const bool y = std::abs(measured.offY) <= asked_.Y_Genauigkeit;
     result.withinX += x;
     result.withinY += y;
     result.withinBoth += x && y;
-    result.seconds += task_.adaptMessung().zustand().AdaptLaufzeit;
-    result.samples += task_.adaptMessung().zustand().AdaptN;
+    result.seconds += measured.seconds;
+    result.samples += measured.samples;
   }
 
   std::mt19937_64 generator_;
-  head::Spot spot_;
-  head::HeadModel model_;
+  HeadOnClock head_;
   StudyCase asked_;
-  CycleWorld world_;
-  FORMGERA formgera_;
-  GeradErfassung task_{{world_.messages, world_.dictionary, world_.profil, world_.system, formgera_}};
-  RecordingView view_;
-  Messzyklus cycle_{world_.surroundings(), world_.head, task_, view_};
+  AdaptivePoints points_{head_};
 };
 
 }  // namespace korvin::test
