@@ -218,6 +218,17 @@ TEST_F(OptionsGTest, SoItDoesAfterTheDialogTookOverAndStayed) {
   EXPECT_EQ(stored("Toleranz_G", "XGesamt"), "0.03");
 }
 
+TEST_F(OptionsGTest, AfterThatTheTextOfBeforeIsAnEntryLikeAnyOther) {
+  store("MessInfo_G", "Distanz", "1234.5678");
+  OptionsG dialog = fromSeries();
+  FeldWerte values = dialog.lesen();
+  at(values, "TextEinstellung(9)") = "1000.0";
+  dialog.uebernehmen(values);
+  at(values, "TextEinstellung(9)") = "1234.6";
+  dialog.uebernehmen(values);
+  EXPECT_EQ(stored("MessInfo_G", "Distanz"), "1234.6");
+}
+
 TEST_F(OptionsGTest, ABlankToleranceIsNone) {
   store("Toleranz_G", "XGesamt", "0.02");
   change("TextEinstellung(10)", "");

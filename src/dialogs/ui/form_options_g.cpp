@@ -72,8 +72,6 @@ void FormOptionsG::gleichVerteilen() {
   ausfuehrenOhneTakt([this] {
     optionen_.punkteGleichVerteilen();
     messungZeigen();
-    // What was only stored before can be taken now.
-    setGeaendert(true);
   });
 }
 

@@ -39,10 +39,9 @@ class LineSettingsDialog : public SettingsDialog {
   /// `ProEinheit`, as rows of `ziel`.
   void toleranzen(Gruppe& ziel, std::string_view section);
 
-  /// The last step of building: commands, values from the store, and from then on every change counts.
+  /// The last step of building: commands, values from the store, and from then on every change of a control
+  /// enables taking over.
   void fertigstellen();
-  /// Something was changed that taking over would take.
-  void setGeaendert(bool geaendert);
 
   /// Label, checked box and its refusal beneath, in two columns of the grid from `spalte` on.
   EndCaretEntry* zahlZeile(Gruppe& ziel, int reihe, int spalte, const QString& worte,
@@ -58,6 +57,8 @@ class LineSettingsDialog : public SettingsDialog {
   void adaptivSchalten(bool an);
   void messZeitenKoppeln(const QWidget& geprueft);
   void aenderungenMelden();
+  /// Something was changed since filling or taking over.
+  void setGeaendert(bool geaendert);
   void taken(bool schliessen);
 
   int rahmen_ = 0;
