@@ -2,6 +2,7 @@
 // service line, and the live view.
 
 #include <QAction>
+#include <QListWidget>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSplitter>
@@ -311,6 +312,25 @@ TEST_F(AdaptiveWindow, ALostLinkEndsThePointWithBarAndView) {
   EXPECT_FALSE(viewShown());
   EXPECT_TRUE(istLeer(x(1)));
   EXPECT_TRUE(series().Adapt.AutoAdapt);
+}
+
+TEST_F(AdaptiveWindow, AnAdaptivePositionOfACentreIsWatchedBesideItsFrame) {
+  show();
+  click("XYMPKMP");
+  auto* frame = widget("FRM_MPM");
+  ASSERT_TRUE(frame->isVisible());
+  auto* measure = form->findChild<QPushButton*>(QStringLiteral("CmdMehrPunkt(0)"));
+  QTest::mouseClick(measure, Qt::LeftButton);
+  ASSERT_TRUE(until([this] { return sampling(); }, 3));
+  run(1);
+  ASSERT_TRUE(viewShown());
+  const QRect shownAt(view().mapTo(form.get(), QPoint(0, 0)), view().size());
+  const QRect frameAt(frame->mapTo(form.get(), QPoint(0, 0)), frame->size());
+  EXPECT_FALSE(shownAt.intersects(frameAt));
+  ASSERT_TRUE(until([this] { return !sampling(); }, 8));
+  EXPECT_FALSE(viewShown());
+  EXPECT_EQ(form->findChild<QListWidget*>(QStringLiteral("LstXvals"))->count(), 1);
+  EXPECT_EQ(line().AktMP, 1) << "no step within the frame";
 }
 
 TEST_F(AdaptiveWindow, TheTableKeepsTheKeyboardUnderTheView) {
