@@ -1,12 +1,10 @@
 #pragma once
 
-#include <cstddef>
 #include <string>
 #include <string_view>
 
-#include "frame/cp1252.h"
-#include "frame/fester_text.h"
 #include "frame/message_port.h"
+#include "frame/record_text.h"
 
 namespace korvin {
 
@@ -16,12 +14,6 @@ inline constexpr std::string_view Programmzeile = "WIN-KORVIN, Version 5.55 / qk
 /// `text` without the blanks on the right.
 inline std::string rechtsGetrimmt(std::string_view text) {
   return std::string(text.substr(0, text.find_last_not_of(' ') + 1));
-}
-
-/// A record's text as UTF-8, without the blanks on the right.
-template <std::size_t N>
-std::string utf8(const FesterText<N>& text) {
-  return vonCp1252(text.trimmed());
 }
 
 /// The text copy of a measurement as it grows: UTF-8, lines end with "\r\n", columns are parted by tabs.

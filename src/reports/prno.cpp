@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "frame/cp1252.h"
 #include "frame/date_format.h"
 #include "frame/filterzeit.h"
 #include "frame/leerwert.h"
 #include "frame/montage.h"
 #include "frame/number_format.h"
 #include "frame/pfade.h"
+#include "frame/record_text.h"
 #include "frame/zahl_text.h"
 #include "position/statistics_texts.h"
 #include "position/xy_diagram.h"
@@ -46,11 +46,6 @@ constexpr double ersterWertX = 125;
 constexpr double zweiterWertX = 165;
 constexpr double spaltenLuft = 2;
 constexpr double markenPlatz = 4;  // behind the first value, for the mark of the offset
-
-template <std::size_t N>
-std::string utf8(const FesterText<N>& text) {
-  return vonCp1252(text.trimmed());
-}
 
 std::string linksGetrimmt(std::string text) {
   text.erase(0, text.find_first_not_of(' '));

@@ -1,7 +1,6 @@
 #include "support/test_files.h"
 
 #include <gtest/gtest.h>
-#include <stdlib.h>  // mkdtemp
 
 #include <algorithm>
 #include <fstream>
@@ -29,20 +28,8 @@ void writeFile(const fs::path& path, std::string_view content) {
   EXPECT_TRUE(file.flush()) << path;
 }
 
-TestFolder::TestFolder() {
-  std::string pattern = (fs::temp_directory_path() / "korvin-test-XXXXXX").string();
-  EXPECT_NE(mkdtemp(pattern.data()), nullptr);
-  folder_ = pattern;
-}
-
-TestFolder::~TestFolder() {
-  std::error_code ignored;
-  fs::permissions(folder_, fs::perms::owner_all, fs::perm_options::add, ignored);
-  fs::remove_all(folder_, ignored);
-}
-
 std::string TestFolder::copyOf(std::string_view dataName) const {
-  const fs::path to = folder_ / fs::path(dataName).filename();
+  const fs::path to = folder_.path() / fs::path(dataName).filename();
   fs::copy_file(dataFile(dataName), to);
   fs::permissions(to, fs::perms::owner_write, fs::perm_options::add);
   return to.string();
@@ -50,7 +37,8 @@ std::string TestFolder::copyOf(std::string_view dataName) const {
 
 std::vector<std::string> TestFolder::names() const {
   std::vector<std::string> names;
-  for (const auto& entry : fs::directory_iterator(folder_)) names.push_back(entry.path().filename().string());
+  for (const auto& entry : fs::directory_iterator(folder_.path()))
+    names.push_back(entry.path().filename().string());
   std::sort(names.begin(), names.end());
   return names;
 }

@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "support/temp_folder.h"
+
 namespace korvin::test {
 
 /// A file of the tests' data folder, as "reference/point.O".
@@ -25,16 +27,11 @@ inline std::string textOf(std::span<const std::byte> bytes) {
   return text;
 }
 
-/// An empty folder of its own, which goes with all it holds at the end of the test.
+/// An empty folder of its own with what tests of measuring files ask of it.
 class TestFolder {
  public:
-  TestFolder();
-  ~TestFolder();
-  TestFolder(const TestFolder&) = delete;
-  TestFolder& operator=(const TestFolder&) = delete;
-
-  std::string path(std::string_view name) const { return (folder_ / name).string(); }
-  std::string path() const { return folder_.string(); }
+  std::string path(std::string_view name) const { return (folder_.path() / name).string(); }
+  std::string path() const { return folder_.path().string(); }
 
   /// Copies a data file here under its own last name and returns its path.
   std::string copyOf(std::string_view dataName) const;
@@ -43,7 +40,7 @@ class TestFolder {
   std::vector<std::string> names() const;
 
  private:
-  std::filesystem::path folder_;
+  TempFolder folder_;
 };
 
 }  // namespace korvin::test

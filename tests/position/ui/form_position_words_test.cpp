@@ -1,30 +1,22 @@
 // The window in all eight languages at 1024 by 768: every word is there, and none is cut off.
 
-#include <QAction>
 #include <QDialog>
 #include <QHeaderView>
-#include <QMenu>
-#include <QMenuBar>
 #include <QPushButton>
 
-#include "frame/sprache.h"
-#include "frame/sqlite_dictionary.h"
-#include "frame/ui/theme.h"
 #include "position_stand.h"
+#include "support/window_words.h"
 
 namespace korvin {
 namespace {
 
-class Words : public test::PositionStand, public ::testing::WithParamInterface<int> {
- protected:
-  Words() {
-    texts.DicOeffnen(KORVIN_BIN "/korvin.mdb");
-    applyTheme(Appearance::light, screenScale(1024 / 1280.0, 768 / 1024.0), GetParam());
-    world.system.SpracheSpalte = SpalteVonSprache(static_cast<std::int16_t>(GetParam()));
-  }
-  ~Words() override { applyTheme(Appearance::light, screenScale(1024 / 1280.0, 768 / 1024.0), 0); }
-  Dictionary& dictionary() override { return texts; }
+using test::expectKeysTell;
+using test::expectLabelsFit;
+using test::expectMenusFit;
+using test::expectNothingCovered;
 
+class Words : public test::InEachLanguage<test::PositionStand> {
+ protected:
   /// The window with all its panels shown: plan, service panel, and the widest values.
   void showAll() {
     world.head.x = 499999;
@@ -43,32 +35,6 @@ class Words : public test::PositionStand, public ::testing::WithParamInterface<i
     click("XYMPN");
     run(0.5);
   }
-  static void expectLabelsFit(const QWidget& window) {
-    for (const QLabel* each : window.findChildren<QLabel*>()) {
-      if (!each->isVisibleTo(&window) || each->text().isEmpty()) continue;
-      if (each->objectName().startsWith(QStringLiteral("lblMSCommInput"))) continue;  // cut on purpose
-      const QFontMetrics metrics(each->font());
-      EXPECT_LE(metrics.horizontalAdvance(each->text()), each->contentsRect().width())
-          << utf8Text(each->objectName()) << ": " << utf8Text(each->text());
-      EXPECT_LE(metrics.height(), each->contentsRect().height() + 1) << utf8Text(each->text());
-      const QRect place(each->mapTo(&window, QPoint(0, 0)), each->size());
-      EXPECT_TRUE(window.rect().contains(place)) << utf8Text(each->text());
-    }
-  }
-
-  static void expectDistinctAccessKeys(const QStringList& texts) {
-    QString seen;
-    for (const QString& text : texts) {
-      const qsizetype mark = text.indexOf(QLatin1Char('&'));
-      ASSERT_GE(mark, 0) << utf8Text(text);
-      const QChar letter = text.at(mark + 1).toLower();
-      EXPECT_FALSE(seen.contains(letter)) << utf8Text(texts.join(QStringLiteral(", ")));
-      seen += letter;
-    }
-  }
-
-  test::TestProgramEnd programEnd;
-  SqliteDictionary texts{world.system.SpracheSpalte, programEnd};
 };
 
 TEST_P(Words, NothingIsCutOff) {
@@ -77,39 +43,23 @@ TEST_P(Words, NothingIsCutOff) {
   EXPECT_LE(form->minimumSizeHint().width(), 1024);
   EXPECT_LE(form->minimumSizeHint().height(), 700) << "room for the desktop's bars";
   expectLabelsFit(*form);
+  expectNothingCovered(*form);
   click("NZOOM");
   settle();
   expectLabelsFit(*form);
+  expectNothingCovered(*form);
 }
 
 TEST_P(Words, AllKeysStandInTheBarAndTellWhatTheyDo) {
   show();
-  for (QAction* action : bar().actions()) {
-    auto* button = qobject_cast<QToolButton*>(bar().widgetForAction(action));
-    if (button == nullptr) continue;
-    EXPECT_TRUE(button->isVisible()) << utf8Text(button->objectName());
-    EXPECT_FALSE(button->toolTip().isEmpty()) << utf8Text(button->objectName());
-    EXPECT_FALSE(button->icon().isNull()) << utf8Text(button->objectName());
-  }
+  expectKeysTell(bar());
   EXPECT_TRUE(key("XYMP1")->toolTip().contains(QStringLiteral("F5")));
 }
 
 TEST_P(Words, MenusFitAndHaveDistinctAccessKeys) {
   show();
   ASSERT_EQ(form->menuBar()->actions().size(), 6);
-  QStringList bar;
-  for (QAction* top : form->menuBar()->actions()) {
-    EXPECT_LE(form->menuBar()->actionGeometry(top).right(), 1024);
-    bar << top->text();
-    QStringList entries;
-    for (QAction* action : top->menu()->actions()) {
-      if (action->isSeparator()) continue;
-      EXPECT_FALSE(action->text().isEmpty()) << utf8Text(action->objectName());
-      entries << action->text();
-    }
-    if (entries.size() > 1) expectDistinctAccessKeys(entries);
-  }
-  expectDistinctAccessKeys(bar);
+  expectMenusFit(*form->menuBar());
 }
 
 TEST_P(Words, HeadingsOfTheListFit) {

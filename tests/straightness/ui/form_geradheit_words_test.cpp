@@ -1,28 +1,21 @@
 // The window in all eight languages at 1024 by 768: every word is there, and none is cut off.
 
-#include <QAction>
 #include <QHeaderView>
-#include <QMenu>
-#include <QMenuBar>
 
-#include "frame/sprache.h"
-#include "frame/sqlite_dictionary.h"
-#include "frame/ui/theme.h"
 #include "gerad_stand.h"
+#include "support/window_words.h"
 
 namespace korvin {
 namespace {
 
-class LineWords : public test::GeradStand, public ::testing::WithParamInterface<int> {
+using test::expectKeysTell;
+using test::expectLabelsFit;
+using test::expectMenusFit;
+using test::expectNothingCovered;
+
+class LineWords : public test::InEachLanguage<test::GeradStand> {
  protected:
-  LineWords() {
-    texts.DicOeffnen(KORVIN_BIN "/korvin.mdb");
-    applyTheme(Appearance::light, screenScale(1024 / 1280.0, 768 / 1024.0), GetParam());
-    world.system.SpracheSpalte = SpalteVonSprache(static_cast<std::int16_t>(GetParam()));
-    world.profil.ProfilSchreiben("", "MessInfo_G", "BiDi_Messen", "-1");
-  }
-  ~LineWords() override { applyTheme(Appearance::light, screenScale(1024 / 1280.0, 768 / 1024.0), 0); }
-  Dictionary& dictionary() override { return texts; }
+  LineWords() { world.profil.ProfilSchreiben("", "MessInfo_G", "BiDi_Messen", "-1"); }
 
   /// The window with all keys, bars and rows, and with long values.
   void showAll() {
@@ -36,40 +29,6 @@ class LineWords : public test::GeradStand, public ::testing::WithParamInterface<
     for (const char* each : {"REF", "STATISTIK", "x", "s", "R", "t", "XYAMPL"}) click(each);
     settle();
   }
-  static void expectLabelsFit(const QWidget& window) {
-    for (const QLabel* each : window.findChildren<QLabel*>()) {
-      if (!each->isVisibleTo(&window) || each->text().isEmpty()) continue;
-      if (each->objectName().startsWith(QStringLiteral("lblMSCommInput"))) continue;  // cut on purpose
-      EXPECT_LE(QFontMetrics(each->font()).horizontalAdvance(each->text()), each->contentsRect().width())
-          << utf8Text(each->objectName()) << ": " << utf8Text(each->text());
-      const QRect place(each->mapTo(&window, QPoint(0, 0)), each->size());
-      EXPECT_TRUE(window.rect().contains(place)) << utf8Text(each->text());
-    }
-  }
-
-  /// No two controls that show something stand on each other.
-  static void expectNothingCovered(const QWidget& window) {
-    std::vector<const QWidget*> shown;
-    for (const QWidget* each : window.findChildren<QWidget*>()) {
-      const bool leaf = qobject_cast<const QLabel*>(each) || qobject_cast<const QLineEdit*>(each) ||
-                        qobject_cast<const QToolButton*>(each) || qobject_cast<const PictureWidget*>(each) ||
-                        qobject_cast<const PointList*>(each);
-      const auto* label = qobject_cast<const QLabel*>(each);
-      if (leaf && each->isVisibleTo(&window) && !(label && label->text().isEmpty())) shown.push_back(each);
-    }
-    ASSERT_GT(shown.size(), 20U);
-    for (std::size_t i = 0; i < shown.size(); ++i) {
-      const QRect mine(shown[i]->mapTo(&window, QPoint(0, 0)), shown[i]->size());
-      for (std::size_t k = 0; k < i; ++k) {
-        const QRect other(shown[k]->mapTo(&window, QPoint(0, 0)), shown[k]->size());
-        EXPECT_TRUE((mine & other).isEmpty())
-            << utf8Text(shown[i]->objectName()) << " on " << utf8Text(shown[k]->objectName());
-      }
-    }
-  }
-
-  test::TestProgramEnd programEnd;
-  SqliteDictionary texts{world.system.SpracheSpalte, programEnd};
 };
 
 TEST_P(LineWords, NothingIsCutOff) {
@@ -103,28 +62,14 @@ TEST_P(LineWords, NothingIsCutOffDuringAnAdaptivePoint) {
 
 TEST_P(LineWords, AllKeysStandInTheBarAndTellWhatTheyDo) {
   showAll();
-  for (QAction* action : bar().actions()) {
-    auto* button = qobject_cast<QToolButton*>(bar().widgetForAction(action));
-    if (button == nullptr) continue;
-    EXPECT_TRUE(button->isVisible()) << utf8Text(button->objectName());
-    EXPECT_FALSE(button->toolTip().isEmpty()) << utf8Text(button->objectName());
-    EXPECT_FALSE(button->icon().isNull()) << utf8Text(button->objectName());
-  }
+  expectKeysTell(bar());
   EXPECT_TRUE(key("XYMP1")->toolTip().contains(QStringLiteral("F5")));
 }
 
-TEST_P(LineWords, EntriesOfAMenuHaveDistinctAccessKeys) {
+TEST_P(LineWords, MenusFitAndHaveDistinctAccessKeys) {
   show();
-  for (QAction* top : form->menuBar()->actions()) {
-    QString seen;
-    for (QAction* action : top->menu()->actions()) {
-      const qsizetype mark = action->text().indexOf(QLatin1Char('&'));
-      if (mark < 0) continue;
-      const QChar letter = action->text().at(mark + 1).toLower();
-      EXPECT_FALSE(seen.contains(letter)) << utf8Text(top->text() + QStringLiteral(": ") + action->text());
-      seen += letter;
-    }
-  }
+  ASSERT_EQ(form->menuBar()->actions().size(), 6);
+  expectMenusFit(*form->menuBar());
 }
 
 TEST_P(LineWords, HeadingsOfTheTableFit) {
