@@ -284,6 +284,7 @@ TEST_F(AdaptivTest, CommandThatEndsThePointLeavesNothingBehind) {
   begin();
   run(3);
   cycle.laufBeenden();
+  EXPECT_FALSE(cycle.tmrMj().enabled());
   EXPECT_FALSE(cycle.adaptiv());
   EXPECT_FALSE(point().laeuft());
   EXPECT_FALSE(view.progress.has_value());
