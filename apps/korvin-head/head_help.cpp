@@ -64,6 +64,8 @@ BEAM
                           point after each M answer: after n points X lies
                           TILT n + BOW n^2 um off, Y half of that the other
                           way; NOISE as in --noise
+    --circle R,N          the head is turned on a circle of R mm, on to the
+                          next of N even positions after each M answer
     --noise UM            standard deviation of a reading in um after 1 s of
                           averaging (default 0.5). It falls with the square
                           root of the time: a tenth of it after 100 s.
@@ -96,6 +98,8 @@ KEYS
     The letters m, j, l and r on standard input press the keys of the head
     (single measurement, running measurement, cursor left and right); on a
     terminal, followed by Enter. A key waits until an answer has reported it.
+    The letter n carries the head on to its next place on --line and --circle,
+    as an M answer does: points made of J answers take no M.
 
     A key script has one press a line: seconds since the start and the
     letter, "2.5 M". "+1 J" is one second after the line before. Empty lines

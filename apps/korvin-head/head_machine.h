@@ -60,6 +60,8 @@ class HeadMachine {
   std::optional<double> nextMoment() const;
 
   KeyPad& keys() { return keys_; }
+  /// Carries the head on to its next place.
+  void carryOn() { model_.carryOn(); }
   const HeadCounters& counters() const { return counters_; }
   const FaultInjector& faults() const { return faults_; }
 

@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <cstdio>
+#include <numbers>
 #include <utility>
 
 namespace korvin::head {
@@ -36,6 +37,15 @@ Beam alongLine(Beam beam, LineShape shape) {
     const auto n = static_cast<double>(moment.measured);
     const double offMm = (shape.tiltUm * n + shape.bowUm * n * n) / kUmPerMm;
     return Spot{spot.xMm + offMm, spot.yMm - offMm / 2};
+  };
+}
+
+Beam onCircle(Beam beam, CircleShape shape) {
+  return [beam = std::move(beam), shape](const Moment& moment) {
+    const Spot spot = beam(moment);
+    const double turns = static_cast<double>(moment.measured) / shape.positions;
+    const double angle = 2 * std::numbers::pi * turns;
+    return Spot{spot.xMm + shape.radiusMm * std::cos(angle), spot.yMm + shape.radiusMm * std::sin(angle)};
   };
 }
 

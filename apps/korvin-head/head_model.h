@@ -17,7 +17,8 @@ struct Spot {
   double yMm = 0;
 };
 
-/// What a beam goes by: seconds since the head's start, and how many M answers the head has given.
+/// What a beam goes by: seconds since the head's start, and how often the head was carried on: with each M
+/// answer, and by hand.
 struct Moment {
   double seconds = 0;
   long measured = 0;
@@ -39,6 +40,16 @@ struct LineShape {
 /// `beam` as a head sees it that is carried along a guideway, to the next point after each M answer: X moves
 /// by the shape, Y by half of it the other way.
 Beam alongLine(Beam beam, LineShape shape);
+
+/// The circle that a head is turned on: so many positions at even angles, from the side of the rising X
+/// towards the rising Y, as the head counts them.
+struct CircleShape {
+  double radiusMm = 0;
+  int positions = 4;
+};
+
+/// `beam` as a head sees it that is turned round it, to the next position after each M answer.
+Beam onCircle(Beam beam, CircleShape shape);
 
 /// What makes one head differ from another.
 struct HeadProperties {
@@ -76,6 +87,9 @@ class HeadModel {
   /// T, 28 for M and J. `key` is the letter of the key that is reported, 'K' for none. With L and R a T
   /// answer is of the kind of its key.
   std::string answer(const Request& request, char key, double now);
+
+  /// Carries the head on to its next place by hand, as an M answer does.
+  void carryOn() { ++measured_; }
 
  private:
   std::string reading(const Request& request, double now);

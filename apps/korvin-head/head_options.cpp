@@ -60,6 +60,15 @@ void setLine(HeadOptions& options, const std::string& text) {
   options.config.guideway = shape;
 }
 
+void setCircle(HeadOptions& options, const std::string& text) {
+  const std::string what = "two numbers, RADIUS,POSITIONS, in mm from 0 to 100 and from 1 to 360";
+  const auto comma = text.find(',');
+  if (comma == std::string::npos) throw OptionError("needs " + what);
+  const std::string_view all = text;
+  options.config.circle = {numberIn(all.substr(0, comma), 0.0, 100.0, what),
+                           numberIn(all.substr(comma + 1), 1, 360, what)};
+}
+
 double seconds(const std::string& text) {
   return numberIn(text, 0.0, 86400.0, "a time in seconds, 0 to 86400");
 }
@@ -122,6 +131,7 @@ std::vector<Option> beamOptions() {
       {"--drift", true, [](auto& o, auto& v) { o.config.driftMmPerHour = pair(v, 10000); }},
       {"--noise", true, [](auto& o, auto& v) { o.config.head.noiseUm = noise(v); }},
       {"--line", true, setLine},
+      {"--circle", true, setCircle},
       {"--intensity", true,
        [](auto& o, auto& v) {
          o.config.head.intensity = numberIn(v, 0, 99, "an intensity in percent, 0 to 99");

@@ -25,13 +25,20 @@ timespec spanOf(double seconds) {
   return {static_cast<time_t>(whole), static_cast<long>((seconds - whole) * 1e9)};
 }
 
+/// On a terminal or a pipe: carries the head on.
+constexpr char CarryOn = 'n';
+
 HeadMachine machineOf(const HeadConfig& config) {
-  return {
-      HeadModel(config.head, alongLine(driftingBeam(config.start, config.driftMmPerHour), config.guideway)),
-      FaultInjector(config.faults), KeyPad(config.keyScript, config.keyHoldSeconds), config.line};
+  return {HeadModel(config.head, beamOf(config)), FaultInjector(config.faults),
+          KeyPad(config.keyScript, config.keyHoldSeconds), config.line};
 }
 
 }  // namespace
+
+Beam beamOf(const HeadConfig& config) {
+  Beam beam = driftingBeam(config.start, config.driftMmPerHour);
+  return onCircle(alongLine(std::move(beam), config.guideway), config.circle);
+}
 
 HeadServer::HeadServer(const HeadConfig& config)
     : machine_(machineOf(config)),
@@ -77,8 +84,10 @@ void HeadServer::readKeys() {
   // At its end, or as a background job that may not read the terminal: no more keys from here.
   if (count <= 0) keysFd_ = -1;
   for (ssize_t i = 0; i < count; ++i) {
-    const char key = keyOf(letters.at(static_cast<std::size_t>(i)));
+    const char letter = letters.at(static_cast<std::size_t>(i));
+    const char key = keyOf(letter);
     if (key != '\0') machine_.keys().press(key);
+    if (letter == CarryOn) machine_.carryOn();
   }
 }
 

@@ -22,11 +22,15 @@ struct HeadConfig {
   Spot start;           ///< beam at the start
   Spot driftMmPerHour;  ///< and its movement
   LineShape guideway;   ///< what the head is carried along, point by point
+  CircleShape circle;   ///< what it is turned on, position by position
   FaultSettings faults;
   std::vector<ScriptedKey> keyScript;
   double keyHoldSeconds = 0;
   int keysFd = -1;  ///< letters of keys are read from here; −1 for none. Not closed by the server.
 };
+
+/// The beam as such a head sees it.
+Beam beamOf(const HeadConfig& config);
 
 /// A head on a pseudo-terminal of this computer. Runs in the thread that calls `runUntil`; a test runs it in
 /// a thread of its own and ends it through a pipe:

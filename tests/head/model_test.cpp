@@ -66,6 +66,24 @@ TEST(Model, AnMAnswerCarriesTheHeadOnAlongItsLine) {
   EXPECT_EQ(model.answer(kM, 'K', 9), "1-K-m 251120 251940 00000 85") << "2 points: 20 - 8 um";
 }
 
+TEST(Model, AnMAnswerTurnsTheHeadOnAlongItsCircle) {
+  HeadModel model(still(), onCircle(driftingBeam({0.1, 0.2}, {}), {0.5, 4}));
+  EXPECT_EQ(model.answer(kJ, 'K', 0), "1-K-j 256000 252000 00000 85");
+  EXPECT_EQ(model.answer(kM, 'K', 0), "1-K-m 256000 252000 00000 85");
+  EXPECT_EQ(model.answer(kM, 'K', 0), "1-K-m 251000 257000 00000 85");
+  EXPECT_EQ(model.answer(kM, 'K', 0), "1-K-m 246000 252000 00000 85");
+  EXPECT_EQ(model.answer(kM, 'K', 0), "1-K-m 251000 247000 00000 85");
+  EXPECT_EQ(model.answer(kM, 'K', 0), "1-K-m 256000 252000 00000 85") << "round again";
+}
+
+TEST(Model, IsCarriedOnByHand) {
+  HeadModel model(still(), alongLine(driftingBeam({}, {}), {10, 0}));
+  model.answer(kJ, 'K', 0);
+  EXPECT_EQ(model.answer(kJ, 'K', 0), "1-K-j 250000 250000 00000 85") << "J alone stays where it is";
+  model.carryOn();
+  EXPECT_EQ(model.answer(kJ, 'K', 0), "1-K-j 250100 249950 00000 85");
+}
+
 TEST(Model, TheBeamDriftsByTheHour) {
   HeadModel model(still(), driftingBeam({1, -1}, {0.36, -3.6}));
   EXPECT_EQ(model.answer(kJ, 'K', 100), "1-K-j 260100 239000 00000 85");

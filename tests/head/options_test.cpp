@@ -48,6 +48,8 @@ TEST(Options, EachReachesItsPlace) {
                                             "-0.25",
                                             "--line",
                                             "12,-2.5,0.25",
+                                            "--circle",
+                                            "0.75,3",
                                             "--drift",
                                             "-1,2.5",
                                             "--noise",
@@ -84,6 +86,8 @@ TEST(Options, EachReachesItsPlace) {
   EXPECT_EQ(config.start.yMm, -0.25);
   EXPECT_EQ(config.guideway.tiltUm, 12);
   EXPECT_EQ(config.guideway.bowUm, -2.5);
+  EXPECT_EQ(config.circle.radiusMm, 0.75);
+  EXPECT_EQ(config.circle.positions, 3);
   EXPECT_EQ(config.driftMmPerHour.xMm, -1);
   EXPECT_EQ(config.driftMmPerHour.yMm, 2.5);
   EXPECT_EQ(config.head.noiseUm, 2);
@@ -121,6 +125,8 @@ TEST(Options, WrongOnesAreNamedWithWhatTheyNeed) {
   EXPECT_THAT(complaint({"--drift", "1"}), HasSubstr("two numbers"));
   for (const char* wrong : {"1", "1,2", "1,2,-1", "1,2000,0", "a,b,c", "1,2,3,4"})
     EXPECT_THAT(complaint({"--line", wrong}), HasSubstr("--line " + std::string(wrong))) << wrong;
+  for (const char* wrong : {"1", "-1,4", "1,0", "1,4.5", "1,361", "101,4", "1,2,3"})
+    EXPECT_THAT(complaint({"--circle", wrong}), HasSubstr("--circle " + std::string(wrong))) << wrong;
   EXPECT_THAT(complaint({"--noise", "-1"}), HasSubstr("noise in um"));
   EXPECT_THAT(complaint({"--intensity", "100"}), HasSubstr("0 to 99"));
   EXPECT_THAT(complaint({"--time-scale", "inf"}), HasSubstr("0 to 100"));

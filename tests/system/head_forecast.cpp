@@ -10,8 +10,7 @@ constexpr head::Request quickMeasurement{'0', '2', 'J'};
 constexpr std::size_t kindColumn = 4;
 
 head::HeadModel modelOf(const head::HeadConfig& config) {
-  return {config.head,
-          head::alongLine(head::driftingBeam(config.start, config.driftMmPerHour), config.guideway)};
+  return {config.head, head::beamOf(config)};
 }
 
 }  // namespace

@@ -16,7 +16,7 @@ class HeadProcess {
   HeadProcess(const std::filesystem::path& configHome, int port,
               const std::vector<std::string>& options = {});
 
-  /// Presses the head's keys: letters m, j, l, r.
+  /// Presses the head's keys: letters m, j, l, r; n carries it on to its next place.
   void press(const std::string& keys) const { program_.write(keys); }
   /// The next line that it prints ("gone 7", "ready 7 DEVICE").
   std::string nextLine() { return program_.readLine(); }
