@@ -38,8 +38,7 @@ COMMANDS
                 UTF-8 with a byte order mark where the language needs it
     csv         a table of the points: UTF-8, commas, a heading, a line a
                 point (see CSV)
-    report      the printed report as a PDF, with all its parts; of a *.G
-                it is not available yet
+    report      the printed report as a PDF, with all its parts
     check       whether each file is a whole, readable measuring file, one
                 line each
 
@@ -57,7 +56,8 @@ OPTIONS
     --json                show in JSON
     --parts PART,...      only these parts of the report. A *.O has diagram, x
                           and y: the page with the diagram, and the columns
-                          of the table.
+                          of the table. A *.G has x-diagram, y-diagram, x
+                          and y.
     --language N          of text copy and report: 0 German (default),
                           1 English, 2 French, 3 Italian, 4 Spanish,
                           5 Swedish, 6 Chinese, 7 Japanese

@@ -8,6 +8,7 @@
 
 #include "frame/textkopie.h"
 #include "korvin-file/csv.h"
+#include "reports/gerad_bericht.h"
 #include "straightness/auswertung.h"
 #include "straightness/masseinheit.h"
 #include "straightness/numeric/kennwerte.h"
@@ -17,6 +18,11 @@
 
 namespace korvin::file {
 namespace {
+
+constexpr std::string_view xDiagramPart = "x-diagram";
+constexpr std::string_view yDiagramPart = "y-diagram";
+constexpr std::string_view xPart = "x";
+constexpr std::string_view yPart = "y";
 
 /// The names of a system of units.
 struct UnitNames {
@@ -120,8 +126,12 @@ class StraightnessFile : public MeasuringFile {
     return text;
   }
 
-  Bericht report(const ReportMeans&) const override {
-    throw FileProblem("a report of a straightness measurement is not available yet");
+  Bericht report(const ReportMeans& means) const override {
+    const auto wanted = [&means](std::string_view part) {
+      return std::find(means.parts.begin(), means.parts.end(), part) != means.parts.end();
+    };
+    return geradBericht({series_, means.dictionary, means.clock, systemOf(means.units), means.path},
+                        {wanted(xDiagramPart), wanted(yDiagramPart), wanted(xPart), wanted(yPart)});
   }
 
  private:
@@ -204,7 +214,9 @@ class StraightnessKind : public MeasuringKind {
   std::string_view name() const override { return "straightness"; }
   std::string_view extension() const override { return ".G"; }
   std::vector<std::string_view> endingsBeside() const override { return {}; }
-  std::vector<std::string_view> reportParts() const override { return {}; }
+  std::vector<std::string_view> reportParts() const override {
+    return {xDiagramPart, yDiagramPart, xPart, yPart};
+  }
 
   std::unique_ptr<MeasuringFile> read(FileSystem& files, const std::string& path) const override {
     StraightnessReader reader(files, path);

@@ -53,10 +53,11 @@ Station::Station(const FolderEnvironment& environment, Appearance appearance)
       geradErfassung_({messages_, dictionary_, profil_, messplatz_.system, formgera_}),
       geradDateien_(
           {fileSystem_, messages_, messplatz_.meldung, dictionary_, profil_, messplatz_.system, formgera_}),
+      geradProtokoll_({formgera_, messplatz_.system, dictionary_, clock_}, ausgabe_),
       geradStarter_(
           windowStart([this](QWidget& fenster,
                              const auto& ausserhalb) { einrichtenGerad(fenster, &offeneReihe_, ausserhalb); },
-                      {}),
+                      [this](QWidget* fenster) { geradProtokoll_.drucken(fenster); }),
           formgera_, geradErfassung_, geradDateien_),
       verteilung_(messplatz_.system.Messart, dictionary_, messages_, messplatz_.meldung),
       programmstart_(messplatz_.system, messplatz_.meldung, settings_, anzeige_, dictionary_, messages_),

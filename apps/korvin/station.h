@@ -34,6 +34,7 @@
 #include "position/position_file.h"
 #include "position/ui/position_starter.h"
 #include "reports/ui/berichtsausgabe.h"
+#include "reports/ui/gerad_protokoll.h"
 #include "reports/ui/positions_protokoll.h"
 #include "straightness/erfassung.h"
 #include "straightness/formgera.h"
@@ -117,6 +118,7 @@ class Station {
   GeradErfassung geradErfassung_;
   OffeneReihe offeneReihe_{formgera_, geradErfassung_};
   GeradDateien geradDateien_;
+  GeradProtokoll geradProtokoll_;
   GeradStarter geradStarter_;
   DateiVerteilung verteilung_;
 

@@ -4,11 +4,8 @@
 #include <cstddef>
 
 #include "frame/date_format.h"
-#include "frame/filterzeit.h"
 #include "frame/leerwert.h"
-#include "frame/montage.h"
 #include "frame/number_format.h"
-#include "frame/pfade.h"
 #include "frame/record_text.h"
 #include "frame/zahl_text.h"
 #include "position/statistics_texts.h"
@@ -19,14 +16,9 @@
 namespace korvin {
 namespace {
 
-constexpr std::string_view druckZeitMuster = "dd.mm.yy hh:mm:ss";
 // Commas in the time of a row, on purpose: sheets that users keep are read in by this.
 constexpr std::string_view zeilenZeitMuster = "dd.mm.yy / hh,mm,ss";
-constexpr std::string_view ohneWert = "?.?";
 constexpr std::string_view offsetMarke = " !";
-
-constexpr double infoY = 25;
-constexpr std::size_t druckZeile = 5;  // line of the information block that tells the time of printing
 
 // The diagram page.
 constexpr double blockEinzug = 13;
@@ -47,15 +39,12 @@ constexpr double zweiterWertX = 165;
 constexpr double spaltenLuft = 2;
 constexpr double markenPlatz = 4;  // behind the first value, for the mark of the offset
 
-std::string linksGetrimmt(std::string text) {
-  text.erase(0, text.find_first_not_of(' '));
-  return text;
-}
-
-/// The bare name of a file; nothing for the mask that a measurement without a file has.
-std::string blanker(const std::string& pfad) {
-  const std::string name = linksGetrimmt(pfadTeilen(pfad).name);
-  return name == "*.O" ? std::string() : name;
+PointStore kopie(const PointStore& punkte) {
+  PointStore neu;
+  neu.X() = punkte.X();
+  neu.Y() = punkte.Y();
+  neu.T() = punkte.T();
+  return neu;
 }
 
 void statistik(AchsenInfo& achse, int anzahl) {
@@ -69,18 +58,16 @@ void statistik(AchsenInfo& achse, int anzahl) {
 
 PRNO::PRNO(const PositionsBerichtQuelle& quelle, const PositionsBerichtTeile& teile)
     : datei_(quelle.datei),
+      punkte_(kopie(quelle.punkte)),
       teile_(teile),
       masssystem_(quelle.Masssystem),
       anzahl_(std::clamp<int>(quelle.datei.Info.AnzahlMP, 0, MaxPunkteO)),
       clock_(quelle.clock),
-      dateiName_(blanker(quelle.dateiName.empty() ? utf8(datei_.Info.DateiName) : quelle.dateiName)),
-      seitenTexte_(seitenTexte(quelle.dictionary, utf8(datei_.Info.FirmaName))) {
-  punkte_.X() = quelle.punkte.X();
-  punkte_.Y() = quelle.punkte.Y();
-  punkte_.T() = quelle.punkte.T();
+      dateiName_(protokollDatei(quelle.dateiName.empty() ? utf8(datei_.Info.DateiName) : quelle.dateiName)),
+      seitenTexte_(seitenTexte(quelle.dictionary, utf8(datei_.Info.FirmaName))),
+      info_(quelle.dictionary, angaben()) {
   statistik(datei_.X, anzahl_);
   statistik(datei_.Y, anzahl_);
-  infoZeilen(quelle.dictionary);
   achsenBloecke(quelle.dictionary);
   tabelleAnlegen(quelle.dictionary);
 }
@@ -90,28 +77,24 @@ std::string PRNO::zahl(double wert) const {
 }
 
 std::string PRNO::momentText(int nummer, std::string_view muster) const {
-  if (nummer < 1 || nummer > anzahl_) return std::string(ohneWert);
+  if (nummer < 1 || nummer > anzahl_) return std::string(OhneWert);
   const double moment = punkte_.T().at(static_cast<std::size_t>(nummer));
-  return istLeer(moment) ? std::string(ohneWert) : formatDate(moment, muster);
+  return istLeer(moment) ? std::string(OhneWert) : formatDate(moment, muster);
 }
 
-void PRNO::infoZeilen(Dictionary& dictionary) {
+ProtokollAngaben PRNO::angaben() const {
   const PositionsInfo& info = datei_.Info;
-  const auto text = [&dictionary](std::int16_t nummer, std::string_view dahinter = ":") {
-    return dictionary.DicText(nummer) + std::string(dahinter);
-  };
-  const std::string zeitraum = momentText(1, druckZeitMuster) + " - " + momentText(anzahl_, druckZeitMuster);
-  info_ = {
-      {text(3001), {}, {}, {}, true},
-      {text(3044), utf8(info.Bezeichnung), {}, {}},
-      {text(3048), utf8(info.ProgrammText), {}, {}},
-      {text(3050), dateiName_, {}, {}},
-      {text(3008), utf8(info.Bediener), {}, {}},
-      {text(3050, " (t):"), reformatDate(utf8(info.Datum), " dd.mm.yy hh:mm:ss"), text(3051, " (t):"), {}},
-      {text(3010), formatNumber(info.AnzahlMP, "0"), text(3084), zeitraum},
-      {text(3003, "°:"), MontageText(dictionary, info.Montage), text(3013),
-       std::string(filterzeit(info.Filter.full().front()))},
-      {text(3009), utf8(info.Kommentar), {}, {}}};
+  return {utf8(info.Bezeichnung),
+          utf8(info.ProgrammText),
+          dateiName_,
+          utf8(info.Bediener),
+          utf8(info.Datum),
+          info.AnzahlMP,
+          3084,
+          momentText(1, ProtokollZeitMuster) + " - " + momentText(anzahl_, ProtokollZeitMuster),
+          info.Montage,
+          info.Filter.full().front(),
+          utf8(info.Kommentar)};
 }
 
 std::string PRNO::offsetText() const {
@@ -122,7 +105,7 @@ std::string PRNO::offsetText() const {
 
 Block PRNO::achsenBlock(std::string_view name, const AchsenInfo& achse, const std::string& titel) const {
   const auto wert = [this](const std::string& zeichen, bool vorhanden, double zahlWert) {
-    return vorhanden ? zeichen + " " + zahl(zahlWert) : zeichen + "  " + std::string(ohneWert);
+    return vorhanden ? zeichen + " " + zahl(zahlWert) : zeichen + "  " + std::string(OhneWert);
   };
   const int SFak = datei_.Info.SFak;
   return statistikBlock({std::string(name), titel, wert("x", !istLeer(achse.Mittel), achse.Mittel),
@@ -146,8 +129,8 @@ void PRNO::tabelleAnlegen(Dictionary& dictionary) {
   const std::string achsen = teile_.XTabelle && teile_.YTabelle ? "XY-" : (teile_.XTabelle ? "X-" : "Y-");
   tabelle_.titel = achsen + dictionary.DicText(3018) + ": ";
   // Positions are never evaluated: the table has them as they were measured, the offset not taken off.
-  tabelle_.fussnote =
-      dictionary.DicText(3064) + ": " + dictionary.DicText(3060) + "   ! = " + dictionary.DicText(3090);
+  tabelle_.fussnoten = {
+      {dictionary.DicText(3064) + ": " + dictionary.DicText(3060) + "   ! = " + dictionary.DicText(3090)}};
   tabelle_.erste = ersteSeite;
   tabelle_.weitere = weitereSeiten;
   tabelle_.anzahl = anzahl_;
@@ -183,7 +166,7 @@ void PRNO::spaltenAnlegen(Dictionary& dictionary) {
 TabellenSpalte PRNO::wertSpalte(std::string_view name, double x, double links, const PunktFeld& werte) const {
   const auto wert = [this, &werte](int i) {
     const double zahlWert = werte.at(static_cast<std::size_t>(i));
-    return istLeer(zahlWert) ? std::string(ohneWert) : zahl(zahlWert);
+    return istLeer(zahlWert) ? std::string(OhneWert) : zahl(zahlWert);
   };
   const auto marke = [this](int i) {
     return datei_.Info.OffsetAktiv && i == datei_.Info.OffsetMP ? offsetMarke : std::string_view();
@@ -199,7 +182,7 @@ void PRNO::drucken(Drucker& drucker) const {
   if (teile_.XYDiagramm) diagrammSeite(rahmen);
   if (teile_.XTabelle || teile_.YTabelle) {
     tabellenSeiten(rahmen, tabelle_, [&] {
-      infoBlock(drucker);
+      info_.drucken(drucker, clock_.now());
       if (teile_.XTabelle) AchsenBlock(drucker, 0, tabellenBlockX, tabelleX_);
       if (teile_.YTabelle) AchsenBlock(drucker, 0, tabellenBlockY, tabelleY_);
     });
@@ -207,16 +190,10 @@ void PRNO::drucken(Drucker& drucker) const {
   drucker.dokumentEnde();
 }
 
-void PRNO::infoBlock(Drucker& drucker) const {
-  std::vector<InfoZeile> zeilen = info_;
-  zeilen.at(druckZeile).wertRechts = formatDate(clock_.now(), druckZeitMuster);
-  InfoBlock(drucker, infoY, zeilen);
-}
-
 void PRNO::diagrammSeite(Seitenrahmen& rahmen) const {
   Drucker& drucker = rahmen.drucker();
   rahmen.SeiteKopf();
-  infoBlock(drucker);
+  info_.drucken(drucker, clock_.now());
   AchsenBlock(drucker, blockEinzug, diagrammBlockX, diagrammX_);
   AchsenBlock(drucker, blockEinzug, diagrammBlockY, diagrammY_);
   xyDiagramm(drucker);

@@ -4,8 +4,8 @@
 #include <string_view>
 #include <vector>
 
-#include "reports/info_block.h"
 #include "reports/positions_bericht.h"
+#include "reports/protokoll.h"
 #include "reports/seitenrahmen.h"
 #include "reports/statistik_block.h"
 #include "reports/tabelle.h"
@@ -27,7 +27,7 @@ class PRNO {
 
  private:
   // The frame's words and blocks, made when the snapshot is taken: no dictionary is asked later.
-  void infoZeilen(Dictionary& dictionary);
+  ProtokollAngaben angaben() const;
   void achsenBloecke(Dictionary& dictionary);
   Block achsenBlock(std::string_view name, const AchsenInfo& achse, const std::string& titel) const;
   std::string offsetText() const;
@@ -39,7 +39,6 @@ class PRNO {
   std::string zahl(double wert) const;
   std::string_view einheit() const { return masssystem_ == 1 ? "mil" : "mm"; }
 
-  void infoBlock(Drucker& drucker) const;
   void diagrammSeite(Seitenrahmen& rahmen) const;
   void xyDiagramm(Drucker& drucker) const;
 
@@ -51,7 +50,7 @@ class PRNO {
   const Clock& clock_;
   std::string dateiName_;
   SeitenTexte seitenTexte_;
-  std::vector<InfoZeile> info_;
+  ProtokollInfo info_;
   Block diagrammX_;
   Block diagrammY_;
   Block tabelleX_;

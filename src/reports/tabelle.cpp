@@ -13,17 +13,47 @@ constexpr double kopfRegel = 6;    // below the headings
 constexpr double zeilenRegel = 5;  // below a row
 constexpr double fussnoteY = 268;
 constexpr double fussnotenSchrift = 7;
+constexpr double stueckAbstand = 2;  // between the pieces of a footnote
+constexpr double notenAbstand = 5;
+
+double breite(Drucker& drucker, const std::vector<Fussnote>& fussnoten) {
+  double breite = -notenAbstand;
+  for (const Fussnote& note : fussnoten) {
+    breite += notenAbstand - stueckAbstand;
+    for (const std::string& stueck : note) breite += stueckAbstand + drucker.textBreite(stueck);
+  }
+  return breite;
+}
+
+/// All footnotes in one line, smaller where they would not fit.
+void fussnotenDrucken(Drucker& drucker, const std::vector<Fussnote>& fussnoten) {
+  schriftSetzen(drucker, fussnotenSchrift);
+  const double raum = RechterRand - LinkerRand;
+  for (double groesse = fussnotenSchrift; breite(drucker, fussnoten) > raum && groesse > 1; groesse -= 0.1)
+    drucker.setSchriftGroesse(groesse);
+  double x = LinkerRand;
+  for (const Fussnote& note : fussnoten) {
+    for (const std::string& stueck : note) {
+      PositionSetzen(drucker, x, fussnoteY);
+      drucker.drucke(stueck);
+      x += drucker.textBreite(stueck) + stueckAbstand;
+    }
+    x += notenAbstand - stueckAbstand;
+  }
+}
 
 void TabellenKopf(Drucker& drucker, const Tabelle& tabelle, double y) {
-  schriftSetzen(drucker, fussnotenSchrift);
-  PositionSetzen(drucker, LinkerRand, fussnoteY);
-  LinksDruck(drucker, tabelle.fussnote);
+  fussnotenDrucken(drucker, tabelle.fussnoten);
   schriftSetzen(drucker, schrift);
   PositionSetzen(drucker, LinkerRand, y);
   LinksDruck(drucker, tabelle.titel, tabelle.spalten.front().kopfX);
   for (const TabellenSpalte& spalte : tabelle.spalten) {
     PositionSetzen(drucker, spalte.kopfX, y);
-    drucker.drucke(spalte.kopf);
+    if (spalte.kopfRechts) {
+      RechtsDruck(drucker, spalte.kopf);
+    } else {
+      drucker.drucke(spalte.kopf);
+    }
   }
   regel(drucker, LinkerRand, y + kopfRegel, tabelle.regelRechts, y + kopfRegel);
 }

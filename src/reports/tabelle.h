@@ -14,7 +14,7 @@ namespace korvin {
 
 /// A column; x in mm.
 struct TabellenSpalte {
-  double kopfX;  ///< where the heading begins
+  double kopfX;  ///< where the heading begins or, if `kopfRechts`, ends
   std::string kopf;
   double x;  ///< where the values begin or, if `rechtsbuendig`, end
   bool rechtsbuendig;
@@ -23,7 +23,11 @@ struct TabellenSpalte {
   std::function<std::string(int)> wert;
   /// What stands behind a value; may be missing.
   std::function<std::string_view(int)> marke;
+  bool kopfRechts = false;
 };
+
+/// A footnote in pieces that belong together but stand a little apart.
+using Fussnote = std::vector<std::string>;
 
 /// Where a table stands on a page, in mm, and how many rows it has there at most.
 struct TabellenPlatz {
@@ -34,7 +38,7 @@ struct TabellenPlatz {
 
 struct Tabelle {
   std::string titel;
-  std::string fussnote;  ///< at the foot of each page that the table has
+  std::vector<Fussnote> fussnoten;  ///< in one line at the foot of each page that the table has
   std::vector<TabellenSpalte> spalten;
   double regelRechts = 175;  ///< where the rules end
   TabellenPlatz erste;

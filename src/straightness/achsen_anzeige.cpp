@@ -135,7 +135,7 @@ std::vector<AchsenZusatzlinie> achsenZusatzlinien(const AchsenAnzeigeDaten& date
     for (const double hoehe : {daten.extreme->Maximum, daten.extreme->Minimum})
       if (std::fabs(hoehe) <= R) linien.push_back({hoehe, "R"});
   }
-  if (!daten.band) return linien;
+  if (!schalter.Abschnitt || !daten.band) return linien;
   for (const double hoehe : {daten.band->oben, daten.band->unten})
     linien.push_back({std::clamp(hoehe, -R, R), std::fabs(hoehe) < R ? "t" : "", LineStyle::dotted,
                       FarbeAchsenLinie, Seite::links});

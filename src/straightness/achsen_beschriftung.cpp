@@ -130,7 +130,7 @@ std::vector<AchsenText> hoehen(DrawingSurface& surface, const AchsenRahmen& rahm
     texte.push_back(
         {hoehenWort(rahmen, i, hoehe), {rand, hoehe}, {HorizontalAnchor::left, VerticalAnchor::middle}, {}});
   }
-  const TextLook look = passend(surface, texte, -rand);
+  const TextLook look = passend(surface, texte, -rand - 2 * surface.lineWidth().width);
   for (AchsenText& text : texte) {
     text.look = look;
     text.imFeld = raum(surface, text).right > 0;

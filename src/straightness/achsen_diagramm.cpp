@@ -1,6 +1,7 @@
 #include "straightness/achsen_diagramm.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstddef>
 #include <utility>
@@ -16,6 +17,8 @@ constexpr double RandLinks = 3;  ///< margins of the picture, in fiftieths of th
 constexpr double RandRechts = 2;
 constexpr double RandOben = 3;
 constexpr double RandUnten = 15;
+constexpr double KleinsterPunkt = 3;  ///< radius of the discs, in line widths
+constexpr double GroessterPunkt = 6;
 
 double erstesZ(const AchsenRahmen& rahmen) {
   return rahmen.AnzMPs < 1 ? 0 : rahmen.z[1];
@@ -32,6 +35,7 @@ void gitterZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen) {
     const double hoehe = R - i * R / 5;
     surface.line({erstesZ(rahmen), hoehe}, {letztesZ(rahmen), hoehe}, stroke);
   }
+  if (rahmen.umrahmt && !rahmen.Gitter) return;
   for (int punkt = 1; punkt <= rahmen.AnzMPs; punkt += linienSchritt(rahmen.AnzMPs)) {
     const double z = rahmen.z[static_cast<std::size_t>(punkt)];
     surface.line({z, -R}, {z, R}, stroke);
@@ -40,9 +44,15 @@ void gitterZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen) {
 
 void achsenZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen) {
   const Stroke stroke{FarbeAchsenLinie};
+  const double anfang = erstesZ(rahmen);
   const double ende = letztesZ(rahmen);
-  surface.line({ende, -rahmen.R}, {ende, rahmen.R}, stroke);
-  surface.line({erstesZ(rahmen), 0}, {ende, 0}, stroke);
+  const double R = rahmen.R;
+  if (rahmen.umrahmt) {
+    const std::array<DataPoint, 4> rand{{{ende, R}, {anfang, R}, {anfang, -R}, {ende, -R}}};
+    surface.polyline(rand, stroke);
+  }
+  surface.line({ende, -R}, {ende, R}, stroke);
+  surface.line({anfang, 0}, {ende, 0}, stroke);
 }
 
 void texteZeichnen(DrawingSurface& surface, const std::vector<AchsenText>& texte) {
@@ -116,6 +126,19 @@ bool gleicheArt(const KurvenStueck& a, const KurvenStueck& b) {
   return a.ueberbrueckt == b.ueberbrueckt && a.ausserhalb == b.ausserhalb;
 }
 
+/// Discs on the values, smaller where many points stand close.
+void punkteZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen, const AchsenKurve& kurve) {
+  const auto n = kurve.werte.werte.empty() ? 0 : static_cast<std::size_t>(kurve.werte.werte[0]);
+  const double linie = surface.lineWidth().width;
+  const double abstand = rahmen.Distanz / std::max<double>(static_cast<double>(n), 1);
+  const double radius = std::clamp(abstand / 3, KleinsterPunkt * linie, GroessterPunkt * linie);
+  for (std::size_t i = 1; i <= n; ++i) {
+    const double wert = kurve.werte.werte[i];
+    if (!istLeer(wert) && std::fabs(wert) <= rahmen.R)
+      surface.disc({kurve.werte.z[i], wert}, radius, kurve.farbe);
+  }
+}
+
 void kurveZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen, const AchsenKurve& kurve) {
   const std::vector<KurvenStueck> stuecke = kurvenStuecke(kurve.werte, rahmen.R);
   std::vector<DataPoint> zug;
@@ -129,20 +152,14 @@ void kurveZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen, const Ac
     surface.polyline(zug, {farbe, 2, stueck.ausserhalb ? LineStyle::dotted : LineStyle::solid});
     zug.clear();
   }
-  const auto n =
-      kurve.punkte && !kurve.werte.werte.empty() ? static_cast<std::size_t>(kurve.werte.werte[0]) : 0;
-  for (std::size_t i = 1; i <= n; ++i) {
-    const double wert = kurve.werte.werte[i];
-    if (!istLeer(wert) && std::fabs(wert) <= rahmen.R)
-      surface.disc({kurve.werte.z[i], wert}, 3 * surface.lineWidth().width, kurve.farbe);
-  }
+  if (kurve.punkte) punkteZeichnen(surface, rahmen, kurve);
 }
 
 }  // namespace
 
-void achsenPapierBeschriftung(AchsenRahmen& rahmen, const DiagrammBereich& bereich, bool mitZ,
-                              int Masssystem) {
+void achsenPapierRahmen(AchsenRahmen& rahmen, const DiagrammBereich& bereich, bool mitZ, int Masssystem) {
   const bool inch = Masssystem == MasssystemInch;
+  rahmen.umrahmt = true;
   rahmen.einheit = bereichsEinheit(bereich);
   rahmen.beschriftung.R = bereichsZahl(bereich);
   if (!mitZ) return;

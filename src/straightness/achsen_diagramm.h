@@ -27,7 +27,7 @@ struct AchsenZeile {
   std::string ende;    ///< behind the last value, as far as it belongs to it with a blank before
 };
 
-/// How the frame is labelled. As it stands it is the screen's way; paper's is `achsenPapierBeschriftung`.
+/// How the frame is labelled. As it stands it is the screen's way; paper's is `achsenPapierRahmen`.
 struct AchsenBeschriftung {
   AchsenZeile punkte{"", " [MP]"};  ///< numbers of the points
   std::optional<AchsenZeile> z;     ///< a row of their z below them
@@ -43,9 +43,10 @@ struct AchsenRahmen {
   double Distanz = 1;         ///< length of the line, mm
   std::span<const double> z;  ///< z of the points in mm, from index 1
   std::int16_t AnzMPs = 0;    ///< number of points
-  bool Gitter = true;         ///< horizontal grid lines; the vertical ones are always there
+  bool Gitter = true;         ///< grid lines; without it the vertical ones stay, unless `umrahmt`
   std::string einheit;        ///< of the heights: "mm" or "mil"; on paper that of the range's label
   AchsenBeschriftung beschriftung{};
+  bool umrahmt = false;  ///< a frame round the plot, whatever `Gitter` is
 };
 
 /// One curve with its colours.
@@ -87,10 +88,9 @@ struct AchsenInhalt {
 /// the units shown (deviations mm or mil, z mm), and evaluates nothing. Drawn in two layers, each on a
 /// surface with the window `achsenFenster`.
 
-/// Labels `rahmen` as on paper: heights in the unit of the label of `bereich`, and, with `mitZ`, the z of the
-/// points in mm or inch (`Masssystem` 1) below their numbers.
-void achsenPapierBeschriftung(AchsenRahmen& rahmen, const DiagrammBereich& bereich, bool mitZ,
-                              int Masssystem);
+/// Makes `rahmen` that of paper: a frame round the plot, heights in the unit of the label of `bereich`, and,
+/// with `mitZ`, the z of the points in mm or inch (`Masssystem` 1) below their numbers.
+void achsenPapierRahmen(AchsenRahmen& rahmen, const DiagrammBereich& bereich, bool mitZ, int Masssystem);
 
 /// Data coordinates of the picture's corners. A line without a length counts as 1 mm long.
 DataWindow achsenFenster(const AchsenRahmen& rahmen);

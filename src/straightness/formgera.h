@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "straightness/record.h"
 
@@ -26,6 +27,11 @@ class FORMGERA {
   GeradDatei& bild() { return bild_; }
   const GeradDatei& bild() const { return bild_; }
 
+  /// Path of the file last loaded or saved, as it was chosen, UTF-8; the record may tell another one, since a
+  /// file that was moved keeps the path of its saving. Empty before the first.
+  std::string& dateiGewaehlt() { return dateiGewaehlt_; }
+  const std::string& dateiGewaehlt() const { return dateiGewaehlt_; }
+
   /// Takes a pair of readings in mm, turned for the mounting, at the current point; what stood there is
   /// replaced. Throws `std::out_of_range` if the current point lies outside 1 to 201.
   void punktEintragen(double X, double Y);
@@ -41,6 +47,7 @@ class FORMGERA {
  private:
   GeradReihe reihe_;
   GeradDatei bild_;
+  std::string dateiGewaehlt_;
   std::uint32_t eingetragen_ = 0;
 };
 

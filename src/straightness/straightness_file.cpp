@@ -34,7 +34,8 @@ std::string leseGrund(Dictionary& dictionary, const StraightnessReadError& fehle
 }  // namespace
 
 bool GeradDateien::g_DateiLaden(const std::string& rohName) {
-  StraightnessReader leser(u_.files, rechtsGetrimmt(rohName));
+  const std::string name = rechtsGetrimmt(rohName);
+  StraightnessReader leser(u_.files, name);
   const bool andereForm = !leser.error() && leser.otherLength();
   if (andereForm && !melder_.andereLaengeLaden(MessartGeradheit)) return false;
   if (const StraightnessReadError fehler = leser.read(u_.formgera.bild())) {
@@ -43,6 +44,7 @@ bool GeradDateien::g_DateiLaden(const std::string& rohName) {
         u_.dictionary.DicText(TextGescheitert) + NeueZeile + leseGrund(u_.dictionary, fehler));
   }
   u_.formgera.bild().Info.Geaendert = andereForm;
+  u_.formgera.dateiGewaehlt() = name;
   return true;
 }
 
@@ -53,6 +55,7 @@ bool GeradDateien::g_DateiSpeichern(const std::string& rohName) {
   const auto bytes = toBytes(u_.formgera.bild());
   const SaveResult result = saveTogether(u_.files, {{name, [&bytes](SaveSink& sink) { sink.write(bytes); }}});
   if (!melder_.gespeichert("g_DateiSpeichern", result)) return false;
+  u_.formgera.dateiGewaehlt() = name;
   // The present setting decides about the text copy; the record's own flag is only kept.
   if (!flagAusText(u_.profil.wert(einstellung::FormGeradheit::AsciiDatei))) return true;
   return g_AsciiDateiSpeichern(name + "$");

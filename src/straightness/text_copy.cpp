@@ -9,6 +9,7 @@
 #include "frame/zahl_text.h"
 #include "straightness/auswertung.h"
 #include "straightness/masseinheit.h"
+#include "straightness/toleranz.h"
 
 namespace korvin {
 namespace {
@@ -29,8 +30,7 @@ const Einheiten& einheiten(std::int16_t Masssystem) {
 std::string toleranzText(const AchsenToleranz& t, std::int16_t Masssystem) {
   const std::string_view muster = einheiten(Masssystem).toleranzMuster;
   return wertOderVorgabe(anzeigeWert(t.Gesamt, Masssystem), muster, "?.?") + "  " +
-         wertOderVorgabe(anzeigeWert(t.WertPro, Masssystem), muster, "?.? ") + "/" +
-         wertOderVorgabe(anzeigeLaenge(t.ProEinheit, Masssystem), "0.0", " ?");
+         abschnittVorgabeGeschrieben(t, Masssystem);
 }
 
 class GeradKopie {

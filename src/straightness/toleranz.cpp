@@ -77,10 +77,14 @@ std::optional<Toleranzband> toleranzband(const AchsenToleranz& toleranz, const E
 }
 
 std::string gesamtText(const AchsenToleranz& toleranz, std::int16_t Masssystem) {
+  return gesamtText(toleranz, Masssystem, Masssystem == MasssystemInch ? "0.0" : "0.000");
+}
+
+std::string gesamtText(const AchsenToleranz& toleranz, std::int16_t Masssystem, std::string_view muster) {
   if (toleranz.Gesamt == 0) return std::string(keinWert);
   const bool umNull = toleranz.ToleranzBezug == BezugNull;
   const double wert = anzeigeWert(umNull ? toleranz.Gesamt / 2 : toleranz.Gesamt, Masssystem);
-  return (umNull ? "±" : "") + formatNumber(wert, Masssystem == MasssystemInch ? "0.0" : "0.000");
+  return (umNull ? "±" : "") + formatNumber(wert, muster);
 }
 
 std::string abschnittVorgabeText(const AchsenToleranz& toleranz, std::int16_t Masssystem) {
@@ -90,12 +94,22 @@ std::string abschnittVorgabeText(const AchsenToleranz& toleranz, std::int16_t Ma
                          inch ? " ?" : " ?.?");
 }
 
-std::string gesamtErgebnisText(const AchsenToleranz& toleranz, const Extremwerte& extreme,
-                               std::int16_t NKStellen) {
-  if (toleranz.Gesamt == 0 || !extreme.gueltig) return std::string(keinWert);
+std::string abschnittVorgabeGeschrieben(const AchsenToleranz& toleranz, std::int16_t Masssystem) {
+  const bool inch = Masssystem == MasssystemInch;
+  return wertOderVorgabe(anzeigeWert(toleranz.WertPro, Masssystem), inch ? "0.00" : "0.000", "?.? ") + "/" +
+         wertOderVorgabe(anzeigeLaenge(toleranz.ProEinheit, Masssystem), "0.0", " ?");
+}
+
+std::string extremeText(const AchsenToleranz& toleranz, const Extremwerte& extreme, std::int16_t NKStellen) {
+  if (!extreme.gueltig) return std::string(keinWert);
   const std::string_view muster = ZahlMuster(NKStellen);
   if (toleranz.ToleranzBezug != BezugNull) return formatNumber(extreme.Maximum - extreme.Minimum, muster);
   return formatNumber(extreme.Maximum, muster) + " , " + formatNumber(extreme.Minimum, muster);
+}
+
+std::string gesamtErgebnisText(const AchsenToleranz& toleranz, const Extremwerte& extreme,
+                               std::int16_t NKStellen) {
+  return toleranz.Gesamt == 0 ? std::string(keinWert) : extremeText(toleranz, extreme, NKStellen);
 }
 
 std::string abschnittErgebnisText(std::span<const double> ausgewertet, const LinienGeometrie& linie,

@@ -3,6 +3,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 
 #include "straightness/numeric/kennwerte.h"
 #include "straightness/record.h"
@@ -45,11 +46,17 @@ std::optional<Toleranzband> toleranzband(const AchsenToleranz& toleranz, const E
 
 /// The allowed: "0.020", "±0.010" around the zero line, "?.?" without a tolerance; mil with one decimal.
 std::string gesamtText(const AchsenToleranz& toleranz, std::int16_t Masssystem);
+/// The same in the format `muster`.
+std::string gesamtText(const AchsenToleranz& toleranz, std::int16_t Masssystem, std::string_view muster);
 /// The allowed in a section: "0.005/1000.0" in mm, "0.2/39" in mil and inch; "?.? " and " ?.?" (inch " ?")
 /// where there is none.
 std::string abschnittVorgabeText(const AchsenToleranz& toleranz, std::int16_t Masssystem);
+/// The same as text copy and report write it: "0.005/1000.0", in mil and inch "0.20/39.4"; "?.? " and " ?".
+std::string abschnittVorgabeGeschrieben(const AchsenToleranz& toleranz, std::int16_t Masssystem);
 
-/// The measured: the range, or both extremes around the zero line; "?.?" without a tolerance or values.
+/// The measured: the range, or both extremes around the zero line; "?.?" without values.
+std::string extremeText(const AchsenToleranz& toleranz, const Extremwerte& extreme, std::int16_t NKStellen);
+/// The same; "?.?" also without a tolerance.
 std::string gesamtErgebnisText(const AchsenToleranz& toleranz, const Extremwerte& extreme,
                                std::int16_t NKStellen);
 /// The measured in the worst section, "0.004/1000.0/3", which it searches and stores in `abschnitt`; dashes

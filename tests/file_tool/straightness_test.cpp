@@ -348,23 +348,67 @@ TEST_F(StraightnessShown, ReadingLeavesTheFileAsItIs) {
 
 // ---- report ----
 
-TEST_F(StraightnessShown, ReportIsNotAvailableAndSaysSo) {
-  const std::string file = folder.copyOf("reference/six.G");
-  const std::string message =
-      "korvin-file: " + file + ": a report of a straightness measurement is not available yet\n";
-  test::writeFile(folder.path("a.pdf"), "old");
-  EXPECT_EQ(run({"report", file, "-o", folder.path("a.pdf")}), 1);
-  EXPECT_EQ(run.errors, message);
-  EXPECT_EQ(run({"report", file, "-o", "-", "--parts", "x"}), 1);
-  EXPECT_EQ(run.errors, message);
-  EXPECT_EQ(test::readFile(folder.path("a.pdf")), "old");
+/// The texts of the report of a reference, "page: text" a line.
+class StraightnessReport : public StraightnessShown {
+ protected:
+  std::string report(std::vector<std::string> options = {}) {
+    options.insert(options.begin(), {"report", file, "-o", "-"});
+    return output(options);
+  }
+  std::string file = folder.copyOf("reference/holes.G");
+};
+
+TEST_F(StraightnessReport, HasAllPartsUnlessSomeAreNamed) {
+  const std::string all = report();
+  EXPECT_THAT(all, HasSubstr("\n1: X-Diagramm:  ISO 1101\n"));
+  EXPECT_THAT(all, HasSubstr("\n1: Y-Diagramm:  ISO 1101\n"));
+  EXPECT_THAT(all, HasSubstr("\n2: X[mm]\n"));
+  EXPECT_THAT(all, HasSubstr("\n2: Y[mm]\n"));
+  EXPECT_THAT(all, HasSubstr("\n1: holes.G\n"));
+  EXPECT_EQ(report({"--parts", "y,x,y-diagram,x-diagram"}), all) << "the pages keep their order";
 }
 
-TEST_F(StraightnessShown, ReportsOfOtherFilesBesideItAreMade) {
-  const std::string file = folder.copyOf("reference/six.G");
+TEST_F(StraightnessReport, HasOnlyTheNamedParts) {
+  const std::vector<std::pair<std::string, std::string>> marks{
+      {"x-diagram", "1: X-Diagramm:"}, {"y-diagram", "1: Y-Diagramm:"}, {"x", "1: X[mm]"}, {"y", "1: Y[mm]"}};
+  for (const auto& [part, own] : marks) {
+    const std::string texts = report({"--parts", part});
+    for (const auto& [other, mark] : marks) {
+      if (other == part) {
+        EXPECT_THAT(texts, HasSubstr(mark)) << part;
+      } else {
+        EXPECT_THAT(texts, Not(HasSubstr(mark))) << part;
+      }
+    }
+  }
+}
+
+TEST_F(StraightnessReport, UnknownPartIsWrongUse) {
+  EXPECT_EQ(run({"report", file, "-o", folder.path("a.pdf"), "--parts", "diagram"}), 2);
+  EXPECT_THAT(run.errors,
+              HasSubstr("--parts diagram: the report of a *.G has the parts x-diagram, y-diagram, x, y"));
+  EXPECT_THAT(folder.names(), ElementsAre("holes.G"));
+}
+
+TEST_F(StraightnessReport, InInchItTellsMilAndInch) {
+  const std::string texts = report({"--inch"});
+  EXPECT_THAT(texts, HasSubstr("\n1: 196.9 in\n"));
+  EXPECT_THAT(texts, HasSubstr("\n2: X[mil]\n"));
+  EXPECT_THAT(texts, HasSubstr("\n2: Z[in]\n"));
+  EXPECT_THAT(texts, HasSubstr("\n2: -0.6\n")) << "Y of the first point";
+}
+
+TEST_F(StraightnessReport, OlderFormsHaveOneToo) {
+  for (const char* name : {"old.G", "older.G"}) {
+    file = folder.copyOf("reference/" + std::string(name));
+    EXPECT_THAT(report(), HasSubstr("1: " + std::string(name) + "\n"));
+  }
+}
+
+TEST_F(StraightnessReport, ReportsOfAllKindsAreMadeTogether) {
   const std::string position = test::referenceIn(folder);
-  EXPECT_EQ(run({"report", file, position, "-o", folder.path(), "--parts", "x"}), 1);
-  EXPECT_THAT(folder.names(), ElementsAre("point.O", "point.O.pdf", "point.O1", "six.G"));
+  EXPECT_EQ(run({"report", file, position, "-o", folder.path(), "--parts", "x"}), 0) << run.errors;
+  EXPECT_THAT(folder.names(), ElementsAre("holes.G", "holes.G.pdf", "point.O", "point.O.pdf", "point.O1"));
 }
 
 // ---- text ----

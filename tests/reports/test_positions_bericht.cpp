@@ -9,52 +9,18 @@
 
 #include "frame/leerwert.h"
 #include "reports/bericht_stand.h"
+#include "reports/paper_texts.h"
 #include "support/live_memory.h"
 
 namespace korvin {
 namespace {
 
 using test::DruckMarke;
+using test::PaperText;
 
 class PositionsBerichtTest : public test::BerichtStand {
  protected:
-  /// A text with its place: where it begins, or, if `right`, where it ends.
-  struct Text {
-    double x;
-    double y;
-    std::string text;
-    double size = 9;
-    bool bold = false;
-    bool right = false;
-  };
-  /// Marks off each expected text; what is left over was printed too.
-  std::vector<std::string> othersThan(std::vector<Text> expected, int page) {
-    std::vector<std::string> others;
-    for (const DruckMarke& mark : paper.texte(page)) {
-      const auto same = [&mark](const Text& t) {
-        return std::abs((t.right ? mark.x2 : mark.x) - t.x) < 1e-4 && std::abs(mark.y - t.y) < 1e-4 &&
-               mark.text == t.text && mark.groesse == t.size && mark.fett == t.bold &&
-               mark.schrift == "ARIAL";
-      };
-      const auto found = std::find_if(expected.begin(), expected.end(), same);
-      if (found == expected.end()) {
-        others.push_back(mark.text);
-      } else {
-        expected.erase(found);
-      }
-    }
-    for (const Text& t : expected)
-      ADD_FAILURE() << "missing at (" << t.x << ", " << t.y << "): \"" << t.text << "\"";
-    return others;
-  }
-
-  static std::vector<Text> headAndFoot(const std::string& number) {
-    return {{20, 10, "KORVIN-D3057:  Prüfstelle Süd", 18},
-            {20, 275, "D3062Vantro Systems AG, Neustadt", 7},
-            {105, 275, "WIN-KORVIN, Version 5.55 / qk ", 7},
-            {180, 275, "D3063: " + number, 7}};
-  }
-  static std::vector<Text> informationOfTheReference() {
+  static std::vector<PaperText> informationOfTheReference() {
     return {{20, 25, "D3001:", 9, true},
             {20, 29, "D3044:"},
             {45, 29, "Spindellager"},
@@ -79,9 +45,6 @@ class PositionsBerichtTest : public test::BerichtStand {
             {20, 57, "D3009:"},
             {45, 57, "Warmlauf"}};
   }
-  static void add(std::vector<Text>& to, const std::vector<Text>& more) {
-    to.insert(to.end(), more.begin(), more.end());
-  }
   int rowsOn(int page) const {
     int rows = 0;
     for (const DruckMarke& mark : paper.texte(page)) rows += mark.text.find(" / ") == 8;
@@ -94,21 +57,21 @@ class PositionsBerichtTest : public test::BerichtStand {
 TEST_F(PositionsBerichtTest, DiagramPageOfTheReference) {
   reference();
   print(all);
-  std::vector<Text> expected = headAndFoot("01");
-  add(expected, informationOfTheReference());
+  std::vector<PaperText> expected = test::headAndFoot("Prüfstelle Süd", "01");
+  test::add(expected, informationOfTheReference());
   const std::string title = "XY-D3017:  D3082: 5 / 0.0379 / -0.0879";
   // Means of the sums less the offset; twice the sample deviation; the spans.
-  add(expected, {{34, 72, "X"},
-                 {38, 72, title},
-                 {116, 72, "x -0.0179"},
-                 {141, 72, "2s 0.0188"},
-                 {166, 72, "R 0.0436"},
-                 {34, 79, "Y"},
-                 {38, 79, title},
-                 {116, 79, "x 0.0371"},
-                 {141, 79, "2s 0.0397"},
-                 {166, 79, "R 0.0891"}});
-  const std::vector<std::string> diagramTexts = othersThan(expected, 1);
+  test::add(expected, {{34, 72, "X"},
+                       {38, 72, title},
+                       {116, 72, "x -0.0179"},
+                       {141, 72, "2s 0.0188"},
+                       {166, 72, "R 0.0436"},
+                       {34, 79, "Y"},
+                       {38, 79, title},
+                       {116, 79, "x 0.0371"},
+                       {141, 79, "2s 0.0397"},
+                       {166, 79, "R 0.0891"}});
+  const std::vector<std::string> diagramTexts = othersThan(expected, paper, 1);
   EXPECT_GT(diagramTexts.size(), 15U) << "ticks and names of the axes";
   for (const DruckMarke& mark : paper.texte(1)) {
     if (std::find(diagramTexts.begin(), diagramTexts.end(), mark.text) == diagramTexts.end()) continue;
@@ -124,62 +87,62 @@ TEST_F(PositionsBerichtTest, FirstTablePageOfTheReference) {
   reference();
   print(all);
   EXPECT_EQ(paper.seite(), 3);
-  std::vector<Text> expected = headAndFoot("02");
-  add(expected, informationOfTheReference());
+  std::vector<PaperText> expected = test::headAndFoot("Prüfstelle Süd", "02");
+  test::add(expected, informationOfTheReference());
   const std::string title = "XY-D3018  D3082: 5 / 0.0379 / -0.0879";
-  add(expected, {{21, 66, "X"},
-                 {25, 66, title},
-                 {103, 66, "x -0.0179"},
-                 {128, 66, "2s 0.0188"},
-                 {153, 66, "R 0.0436"},
-                 {21, 74, "Y"},
-                 {25, 74, title},
-                 {103, 74, "x 0.0371"},
-                 {128, 74, "2s 0.0397"},
-                 {153, 74, "R 0.0891"}});
-  add(expected, {{20, 85, "XY-D3018: "},
-                 {55, 85, "D3066"},
-                 {75, 85, "D3056 / D3055"},
-                 {125, 85, "X[mm]"},
-                 {165, 85, "Y[mm]"},
-                 {20, 268, "D3064: D3060   ! = D3090", 7}});
-  add(expected, {{55, 94, "1", 9, false, true},
-                 {75, 94, "14.01.04 / 13,58,48"},
-                 {125, 94, "0.0261", 9, false, true},
-                 {165, 94, "-0.0888", 9, false, true}});
-  add(expected, {{55, 118, "5", 9, false, true},
-                 {75, 118, "14.01.04 / 13,59,28"},
-                 {125, 118, "0.0379", 9, false, true},
-                 {125, 118, " !"},
-                 {165, 118, "-0.0879", 9, false, true},
-                 {165, 118, " !"}});
-  add(expected, {{55, 256, "28", 9, false, true},
-                 {75, 256, "14.01.04 / 14,03,18"},
-                 {125, 256, "0.0282", 9, false, true},
-                 {165, 256, "-0.0746", 9, false, true}});
-  EXPECT_EQ(othersThan(expected, 2).size(), 25U * 4U) << "the other rows";
+  test::add(expected, {{21, 66, "X"},
+                       {25, 66, title},
+                       {103, 66, "x -0.0179"},
+                       {128, 66, "2s 0.0188"},
+                       {153, 66, "R 0.0436"},
+                       {21, 74, "Y"},
+                       {25, 74, title},
+                       {103, 74, "x 0.0371"},
+                       {128, 74, "2s 0.0397"},
+                       {153, 74, "R 0.0891"}});
+  test::add(expected, {{20, 85, "XY-D3018: "},
+                       {55, 85, "D3066"},
+                       {75, 85, "D3056 / D3055"},
+                       {125, 85, "X[mm]"},
+                       {165, 85, "Y[mm]"},
+                       {20, 268, "D3064: D3060   ! = D3090", 7}});
+  test::add(expected, {{55, 94, "1", 9, false, true},
+                       {75, 94, "14.01.04 / 13,58,48"},
+                       {125, 94, "0.0261", 9, false, true},
+                       {165, 94, "-0.0888", 9, false, true}});
+  test::add(expected, {{55, 118, "5", 9, false, true},
+                       {75, 118, "14.01.04 / 13,59,28"},
+                       {125, 118, "0.0379", 9, false, true},
+                       {125, 118, " !"},
+                       {165, 118, "-0.0879", 9, false, true},
+                       {165, 118, " !"}});
+  test::add(expected, {{55, 256, "28", 9, false, true},
+                       {75, 256, "14.01.04 / 14,03,18"},
+                       {125, 256, "0.0282", 9, false, true},
+                       {165, 256, "-0.0746", 9, false, true}});
+  EXPECT_EQ(othersThan(expected, paper, 2).size(), 25U * 4U) << "the other rows";
   EXPECT_EQ(rowsOn(2), 28);
 }
 
 TEST_F(PositionsBerichtTest, LastTablePageOfTheReference) {
   reference();
   print(all);
-  std::vector<Text> expected = headAndFoot("03");
-  add(expected, {{20, 33, "XY-D3018: "},
-                 {55, 33, "D3066"},
-                 {75, 33, "D3056 / D3055"},
-                 {125, 33, "X[mm]"},
-                 {165, 33, "Y[mm]"},
-                 {20, 268, "D3064: D3060   ! = D3090", 7}});
-  add(expected, {{55, 39, "29", 9, false, true},
-                 {75, 39, "14.01.04 / 14,03,28"},
-                 {125, 39, "0.0303", 9, false, true},
-                 {165, 39, "-0.0744", 9, false, true}});
-  add(expected, {{55, 105, "40", 9, false, true},
-                 {75, 105, "14.01.04 / 14,05,18"},
-                 {125, 105, "0.0122", 9, false, true},
-                 {165, 105, "-0.0207", 9, false, true}});
-  EXPECT_EQ(othersThan(expected, 3).size(), 10U * 4U);
+  std::vector<PaperText> expected = test::headAndFoot("Prüfstelle Süd", "03");
+  test::add(expected, {{20, 33, "XY-D3018: "},
+                       {55, 33, "D3066"},
+                       {75, 33, "D3056 / D3055"},
+                       {125, 33, "X[mm]"},
+                       {165, 33, "Y[mm]"},
+                       {20, 268, "D3064: D3060   ! = D3090", 7}});
+  test::add(expected, {{55, 39, "29", 9, false, true},
+                       {75, 39, "14.01.04 / 14,03,28"},
+                       {125, 39, "0.0303", 9, false, true},
+                       {165, 39, "-0.0744", 9, false, true}});
+  test::add(expected, {{55, 105, "40", 9, false, true},
+                       {75, 105, "14.01.04 / 14,05,18"},
+                       {125, 105, "0.0122", 9, false, true},
+                       {165, 105, "-0.0207", 9, false, true}});
+  EXPECT_EQ(othersThan(expected, paper, 3).size(), 10U * 4U);
   EXPECT_EQ(rowsOn(3), 12);
 }
 

@@ -16,7 +16,7 @@ class TabelleTest : public ::testing::Test {
  protected:
   TabelleTest() {
     table.titel = "Title: ";
-    table.fussnote = "! = note";
+    table.fussnoten = {{"! = note"}};
     table.spalten = {{60, "MP", 55, true, 20, [](int i) { return std::to_string(i); }, {}},
                      {125, "X[mm]", 125, true, 90, [](int i) { return "x" + std::to_string(i); },
                       [](int i) { return i == 2 ? " !" : ""; }}};

@@ -235,13 +235,13 @@ Lines paperTexts(const DiagrammBereich& range, bool withZ, int system) {
   std::vector<double> z;
   AchsenRahmen frame = frameOf(5, z);
   frame.R = range.bereich;
-  achsenPapierBeschriftung(frame, range, withZ, system);
+  achsenPapierRahmen(frame, range, withZ, system);
   test::RecordingSurface surface(1900, 900);
   achsenRahmenZeichnen(surface, frame);
   return surface.texts();
 }
 
-TEST(AchsenPapierBeschriftung, TellsHeightsInTheUnitOfTheRange) {
+TEST(AchsenPapierRahmen, TellsHeightsInTheUnitOfTheRange) {
   EXPECT_EQ(paperTexts(bereichAnpassen(0.02, 0), false, 0),
             (Lines{"1", "2", "3", "4", "5 [MP]", "+ 16.0", "+ 8.0", "+ 0.0", "- 8.0", "- 16.0", "[um]"}));
   EXPECT_EQ(paperTexts(bereichAnpassen(1000, 1), false, 1),
@@ -249,10 +249,10 @@ TEST(AchsenPapierBeschriftung, TellsHeightsInTheUnitOfTheRange) {
   EXPECT_EQ(paperTexts(bereichAnpassen(0.02, 1), false, 1)[5], "+ 0.016");
 }
 
-TEST(AchsenPapierBeschriftung, SetsTheRowOfZOneLineBelowTheNumbers) {
+TEST(AchsenPapierRahmen, SetsTheRowOfZOneLineBelowTheNumbers) {
   const std::vector<double> z = {0, 0, 500, 1000};
   AchsenRahmen frame{.R = 1, .Distanz = 1000, .z = z, .AnzMPs = 3, .einheit = {}};
-  achsenPapierBeschriftung(frame, bereichAnpassen(1, 0), true, 0);
+  achsenPapierRahmen(frame, bereichAnpassen(1, 0), true, 0);
   test::RecordingSurface surface;
   achsenRahmenZeichnen(surface, frame);
   const auto height = [&](const std::string& wanted) {
@@ -264,7 +264,7 @@ TEST(AchsenPapierBeschriftung, SetsTheRowOfZOneLineBelowTheNumbers) {
   EXPECT_DOUBLE_EQ(height("500.0"), -1 - surface.textSize("0", {}).height);
 }
 
-TEST(AchsenPapierBeschriftung, ShowsZBelowTheNumbers) {
+TEST(AchsenPapierRahmen, ShowsZBelowTheNumbers) {
   const Lines mm = paperTexts(bereichAnpassen(0.02, 0), true, 0);
   EXPECT_EQ(Lines(mm.begin(), mm.begin() + 12), (Lines{"[ MP]", "1", "2", "3", "4", "5 [MP]", "z[mm]", "0.0",
                                                        "250.0", "500.0", "750.0", "1000.0 [mm]"}));
@@ -408,11 +408,29 @@ TEST(AchsenInhaltZeichnen, SetsDiscsOnTheValuesInsideTheRangeWhereACurveHasThem)
   EXPECT_EQ(discs[0].points[0], (DataPoint{0, 0.5}));
   EXPECT_EQ(discs[1].points[0], (DataPoint{300, -1}));
   EXPECT_EQ(discs[0].colour, 0x123456);
-  EXPECT_DOUBLE_EQ(discs[0].radius, 3 * surface.lineWidth().width);
+  EXPECT_DOUBLE_EQ(discs[0].radius, 6 * surface.lineWidth().width);
   content.kurven[0].punkte = false;
   test::RecordingSurface without;
   achsenInhaltZeichnen(without, frame, content);
   EXPECT_TRUE(without.all(Kind::disc).empty());
+}
+
+TEST(AchsenInhaltZeichnen, DiscsAreSmallerWherePointsStandClose) {
+  const auto radius = [](std::size_t points) {
+    std::vector<double> values(points + 1, 0.5);
+    values[0] = static_cast<double>(points);
+    const std::vector<double> z(points + 1, 100);
+    AchsenRahmen frame{
+        .R = 1, .Distanz = 300, .z = z, .AnzMPs = static_cast<std::int16_t>(points), .einheit = "mm"};
+    AchsenInhalt content;
+    content.kurven.push_back({.werte = {values, z}, .punkte = true});
+    test::RecordingSurface surface(1100, 900);
+    achsenInhaltZeichnen(surface, frame, content);
+    return surface.all(Kind::disc).at(0).radius / surface.lineWidth().width;
+  };
+  EXPECT_DOUBLE_EQ(radius(20), 6);
+  EXPECT_DOUBLE_EQ(radius(80), 1000 / 80.0 / 3) << "a third of their distance";
+  EXPECT_DOUBLE_EQ(radius(200), 3);
 }
 
 TEST(AchsenInhaltZeichnen, CurvesAreTwiceAsWideAsLines) {

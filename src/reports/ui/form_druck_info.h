@@ -30,6 +30,7 @@ inline constexpr std::array<const char*, 2> XUndY = {"X", "Y"};
 
 /// The family. To add a dialog: a line here, and `DruckInfoFelder` of its record.
 inline constexpr DruckInfoArt FormDruckInfoO{"FormDruckInfoO", 5502, NurXY, XUndY};
+inline constexpr DruckInfoArt FormDruckInfoG{"FormDruckInfoG", 5500, XUndY, XUndY};
 
 /// What the dialog shows and changes of a record; as many choices as its kind has boxes. All outlive it.
 struct DruckInfoFelder {

@@ -5,7 +5,6 @@
 #include "frame/messplatz.h"
 #include "position/formpos.h"
 #include "reports/ui/berichtsausgabe.h"
-#include "reports/ui/form_druck_info.h"
 
 namespace korvin {
 
@@ -27,8 +26,6 @@ class PositionsProtokoll {
   void drucken(QWidget* fenster);
 
  private:
-  DruckInfoFelder felder();
-  /// Of the record as it is now; a running measurement goes on.
   Bericht bericht() const;
 
   ProtokollUmgebung u_;

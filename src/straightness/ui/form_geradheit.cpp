@@ -29,7 +29,7 @@ constexpr std::array<TastenZeile, 33> Tasten = {{{"NEU", "ICON1", Kind::push, "C
                                                  {"EINRICHTEN", "ICON46", Kind::push, "", 2037},
                                                  {"LADEN", "ICON3", Kind::push, "Ctrl+O", 2002},
                                                  {"SPEICHERN", "ICON2", Kind::push, "Ctrl+S", 2001},
-                                                 {"DRUCKEN", "ICON4", Kind::push, "Ctrl+P", 2003, true},
+                                                 {"DRUCKEN", "ICON4", Kind::push, "Ctrl+P", 2003},
                                                  {},
                                                  {"REF", "ICONREF", Kind::check, "Alt+1", 7500},
                                                  {"REF1", "ICONREF1", Kind::push, "", 7501},

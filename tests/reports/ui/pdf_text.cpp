@@ -5,6 +5,7 @@
 #include <QProcess>
 #include <QXmlStreamReader>
 #include <algorithm>
+#include <cmath>
 #include <fstream>
 
 #include "frame/ui/qt_text.h"
@@ -57,6 +58,30 @@ PdfWord wordOf(const std::vector<PdfWord>& words, const std::string& text) {
   if (found != words.end()) return *found;
   ADD_FAILURE() << "no word " << text;
   return {};
+}
+
+void expectTexts(const std::vector<PdfWord>& words, const std::vector<PageMarks>& pages, TextShaper& shaper) {
+  std::size_t expected = 0;
+  for (std::size_t i = 0; i < pages.size(); ++i) {
+    for (const PageMark& mark : pages[i].marks) {
+      if (mark.kind != PageMark::Kind::text) continue;
+      const std::string_view text = pages[i].text(mark);
+      for (std::size_t begin = text.find_first_not_of(' '); begin != std::string_view::npos; ++expected) {
+        const std::size_t end = std::min(text.find(' ', begin), text.size());
+        const std::string word(text.substr(begin, end - begin));
+        // Without the kerning across the blank.
+        const double left = mark.x1 + shaper.width(text.substr(0, begin), pages[i].fonts.at(mark.font));
+        EXPECT_TRUE(std::any_of(words.begin(), words.end(),
+                                [&](const PdfWord& its) {
+                                  return its.page == static_cast<int>(i) + 1 && its.text == word &&
+                                         std::abs(its.left - left) < 0.2 && std::abs(its.top - mark.y1) < 0.1;
+                                }))
+            << "page " << i + 1 << " (" << left << ", " << mark.y1 << ") " << word;
+        begin = text.find_first_not_of(' ', end);
+      }
+    }
+  }
+  EXPECT_EQ(words.size(), expected) << "nothing else";
 }
 
 std::string outputOf(const std::string& program, const std::string& path) {

@@ -4,6 +4,8 @@
 #include <vector>
 
 #include "reports/ui/byte_blocks.h"
+#include "reports/ui/page_marks.h"
+#include "reports/ui/text_shaper.h"
 
 namespace korvin::test {
 
@@ -22,6 +24,9 @@ std::vector<PdfWord> wordsOf(const std::string& path);
 
 /// The first word of this text; fails the test if there is none.
 PdfWord wordOf(const std::vector<PdfWord>& words, const std::string& text);
+
+/// Every word of the composed pages is in the PDF at its place, and no other.
+void expectTexts(const std::vector<PdfWord>& words, const std::vector<PageMarks>& pages, TextShaper& shaper);
 
 /// What a program of the PDF tools says about a file: `outputOf("pdfinfo", path)`.
 std::string outputOf(const std::string& program, const std::string& path);

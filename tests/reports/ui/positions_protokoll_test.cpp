@@ -3,8 +3,8 @@
 #include "reports/ui/positions_protokoll.h"
 
 #include <QCheckBox>
-#include <algorithm>
-#include <cmath>
+#include <QLabel>
+#include <QLineEdit>
 
 #include "frame/datei_kopf.h"
 #include "frame/profil.h"
@@ -99,31 +99,10 @@ TEST_F(Protokoll, EveryTextOfTheReferenceStandsInThePdfAtItsPlace) {
   ByteBlocks pdf;
   renderPdf(bericht, 0, {}, pdf);
   ASSERT_EQ(savePdf(disk, target(), pdf).state, SaveState::saved);
-  const auto words = wordsOf(target());
   TextShaper shaper(0);
   const std::vector<PageMarks> pages = composedPages(bericht, shaper, {});
   ASSERT_EQ(pages.size(), 3U);
-  std::size_t expected = 0;
-  for (std::size_t i = 0; i < pages.size(); ++i) {
-    for (const PageMark& mark : pages[i].marks) {
-      if (mark.kind != PageMark::Kind::text) continue;
-      const std::string_view text = pages[i].text(mark);
-      for (std::size_t begin = text.find_first_not_of(' '); begin != std::string_view::npos; ++expected) {
-        const std::size_t end = std::min(text.find(' ', begin), text.size());
-        const std::string word(text.substr(begin, end - begin));
-        // Without the kerning across the blank.
-        const double left = mark.x1 + shaper.width(text.substr(0, begin), pages[i].fonts.at(mark.font));
-        EXPECT_TRUE(std::any_of(words.begin(), words.end(),
-                                [&](const test::PdfWord& its) {
-                                  return its.page == static_cast<int>(i) + 1 && its.text == word &&
-                                         std::abs(its.left - left) < 0.2 && std::abs(its.top - mark.y1) < 0.1;
-                                }))
-            << "page " << i + 1 << " (" << left << ", " << mark.y1 << ") " << word;
-        begin = text.find_first_not_of(' ', end);
-      }
-    }
-  }
-  EXPECT_EQ(words.size(), expected) << "nothing else";
+  test::expectTexts(wordsOf(target()), pages, shaper);
 }
 
 TEST_F(Protokoll, TheUnitIsThatOfTheSystem) {

@@ -280,13 +280,6 @@ TEST_F(Display, ARowChosenInTheTableIsTheCurrentPoint) {
   EXPECT_EQ(text("PanelMessPkt"), "4 / 6");
 }
 
-TEST_F(Display, PictureKeysThatComeLaterTellSo) {
-  show();
-  EXPECT_TRUE(keyShown("DRUCKEN"));
-  EXPECT_FALSE(enabled("DRUCKEN"));
-  EXPECT_TRUE(key("DRUCKEN")->toolTip().contains(QStringLiteral("D7030")));
-}
-
 TEST_F(Display, HelpKey) {
   show();
   click("HILFE");
