@@ -31,7 +31,6 @@ constexpr std::int16_t TextPrioHinweis = 7745;
 constexpr std::int16_t TextSpeichernHinweis = 7746;
 
 constexpr double smallScale = 0.85;
-constexpr double valueScale = 1.35;
 
 QString element(const char* name, int index) {
   return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index);
