@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QMenu>
 #include <QSignalSpy>
 
 #include "gerad_stand.h"
@@ -82,6 +83,11 @@ TEST_F(Display, EvaluationDoesNotCountAsAChange) {
   measureLine();
   info().Geaendert = false;
   for (const char* each : {"REF", "ISO", "ROH", "STATISTIK", "x", "XYAMPL", "XNZOOM", "ZMMOD"}) click(each);
+  for (const char* each : {"HAND", "PLUS", "MINUS", "TOL", "AUTO"})
+    QTest::mouseClick(bar("tbrXBereich").button(QString::fromUtf8(each)), Qt::LeftButton);
+  entry("M_Gitter")->trigger();
+  list().setCurrentIndex(list().model()->index(2, 0));
+  EXPECT_EQ(line().AktMP, 3);
   EXPECT_FALSE(info().Geaendert);
 }
 
@@ -178,6 +184,28 @@ TEST_F(Display, WordsOfThePanelsAndBarsAreThere) {
     captions += each->text();
   for (const char* each : {"t D7541", "t D7542", "D5000", "D5001"})
     EXPECT_TRUE(captions.contains(QString::fromUtf8(each))) << each;
+}
+
+TEST_F(Display, EntriesOfTheMenusHaveTheirOwnWords) {
+  show();
+  const auto words = [this](const char* name) {
+    return utf8Text(entry(name)->text().section(QLatin1Char('\t'), 0, 0));
+  };
+  EXPECT_EQ(words("M_SingleMeas"), "D7185");
+  EXPECT_EQ(words("M_PJustage"), "D7530");
+  EXPECT_EQ(words("M_QJustage"), "D7531");
+  EXPECT_EQ(words("M_xNumZoom"), "D7532");
+  EXPECT_EQ(words("M_yNumZoom"), "D7533");
+  EXPECT_EQ(words("M_Gitter"), "D7192");
+  EXPECT_EQ(utf8Text(form->findChild<QMenu*>(QStringLiteral("M_Panel"))->title()), "D7190");
+  EXPECT_TRUE(key("XYAMPL")->toolTip().startsWith(QStringLiteral("XY-D3061")))
+      << utf8Text(key("XYAMPL")->toolTip());
+}
+
+TEST_F(Display, PanelsAreWhiteBeforeTheFirstReading) {
+  show();
+  for (const char* each : {"PanelxWertNormal", "PanelyWertNormal", "PanelXWertZoom", "PanelYWertZoom"})
+    EXPECT_EQ(ground(each), QColor(Qt::white)) << each;
 }
 
 TEST_F(Display, ControlsTellAScreenReaderWhatTheyAre) {

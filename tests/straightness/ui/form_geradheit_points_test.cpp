@@ -141,6 +141,17 @@ TEST_F(Points, DataThatReplaceTheOnesUnderADragLetGoOfThePoint) {
   QTest::mouseRelease(&diagram(), Qt::LeftButton, {}, at(1300));
 }
 
+TEST_F(Points, EndOfTheModeLetsGoOfThePoint) {
+  mode();
+  QTest::mousePress(&diagram(), Qt::LeftButton, {}, at(1000));
+  type(Qt::Key_F4);
+  QTest::mouseMove(&diagram(), at(1300));
+  EXPECT_EQ(zOf(3), 1000);
+  EXPECT_EQ(diagram().cursor().shape(), Qt::UpArrowCursor);
+  QTest::mouseRelease(&diagram(), Qt::LeftButton, {}, at(1300));
+  EXPECT_EQ(world.messages.beeps, 0);
+}
+
 TEST_F(Points, EntryIsInInchThere) {
   world.system.Masssystem = 1;
   mode();
@@ -157,6 +168,7 @@ TEST_F(Points, EntryWithoutANumberIsRefusedAndThePointStays) {
   EXPECT_EQ(zOf(2), 500);
   ASSERT_EQ(world.messages.shown.size(), 1U);
   EXPECT_EQ(world.messages.shown[0].text, "D6013");
+  EXPECT_EQ(world.messages.beeps, 1);
   EXPECT_EQ(z().text().toStdString(), "500.0");
   EXPECT_FALSE(info().Geaendert);
 }
