@@ -111,14 +111,15 @@ void Messzyklus::nachTick(std::function<void()> befehl) {
 }
 
 void Messzyklus::vormerken(char zustand) {
-  tastenzustand_ = zustand;
+  // A request of the trigger line that is taken back must not hold RTS low.
+  if (std::exchange(tastenzustand_, zustand) == 'S' && zustand == 'K') triggerBedient();
   tmrKeyPressed_->setEnabled(false);
   if (!imTick_ && !laeuft_) tmrPolling_->setEnabled(true);
 }
 
 void Messzyklus::ausserDerReihe(std::function<void()> arbeit) {
   ausserDerReihe_ = std::move(arbeit);
-  if (!imTick_) tick(&Messzyklus::tickAusserDerReihe);
+  tick(&Messzyklus::tickAusserDerReihe);
 }
 
 void Messzyklus::schliessenAnfordern() {

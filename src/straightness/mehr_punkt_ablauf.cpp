@@ -174,7 +174,7 @@ void MehrPunktAblauf::mitteSpeichern() {
     zeigen();
     throw;
   }
-  if (!zyklus_.Schliessen()) schliessen();
+  schliessen();
 }
 
 // ---- The end of the frame ----

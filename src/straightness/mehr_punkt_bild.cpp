@@ -138,9 +138,10 @@ void positionZeichnen(DrawingSurface& surface, const MehrPunktBild& bild, std::s
   surface.disc(ort, 4 * surface.lineWidth().width, FarbePosition);
   const std::string text = nummern(surface, bild, k);
   if (text.empty()) return;
-  // On the side that looks to the middle, where no dial is.
-  const bool rechts = ort.x < bild.ursprung.x;
-  const bool oben = ort.y < bild.ursprung.y;
+  // Clear of the dial outside and of the centre within.
+  const bool nachInnen = abstand(ort, bild.ursprung) > bild.bereich / 2;
+  const bool rechts = (ort.x < bild.ursprung.x) == nachInnen;
+  const bool oben = (ort.y < bild.ursprung.y) == nachInnen;
   const double dx = 6 * surface.lineWidth().width;
   const double dy = 3 * surface.lineWidth().height;
   surface.text({ort.x + (rechts ? dx : -dx), ort.y + (oben ? dy : -dy)}, text, {FarbePosition},

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <numbers>
 #include <optional>
+#include <stdexcept>
 #include <utility>
 
 #include "straightness/erfassung_stand.h"
@@ -365,6 +366,26 @@ TEST_F(MultiPoint, AcceptStoresTheCentreWhateverCameInMeanwhile) {
   EXPECT_DOUBLE_EQ(Y(1), -0.3);
 }
 
+TEST_F(MultiPoint, ClosingShowsTheQualityOfTheCentreAgain) {
+  start();
+  takeThree();
+  world.clock.after(0.5, [this] { view.intensity.clear(); });
+  flow.CmdMehrPunkt(accept);
+  EXPECT_EQ(view.intensity, "D3081: 80 % ");
+}
+
+TEST_F(MultiPoint, TriggerWhileTheCentreIsShownMeasuresNoPoint) {
+  start();
+  takeThree();
+  world.clock.after(0.5, [this] { world.head.changeDsr(true); });
+  flow.CmdMehrPunkt(accept);
+  world.head.commands.clear();
+  run(3);
+  EXPECT_EQ(count('M'), 0U);
+  EXPECT_EQ(line().AktMP, 2);
+  EXPECT_TRUE(world.head.RTSEnable()) << "the trigger is answered";
+}
+
 TEST_F(MultiPoint, AcceptStepsBackwardIfTheDirectionIsSo) {
   line().AktMP = 3;
   task.AUTO_MESSRICHTUNG();
@@ -422,6 +443,7 @@ TEST_F(MultiPoint, CentreTooFarOffIsToldAndNotStored) {
   // A short arc of a large circle: its centre is 6 mm off, on the small head.
   for (const double w : {170, 180, 190}) takeAt(w, 6, 0, 5);
   ASSERT_EQ(world.messages.shown.size(), 1U);
+  EXPECT_EQ(world.messages.beeps, 1);
   EXPECT_EQ(world.messages.shown[0].title, "KORVIN-D2100");
   EXPECT_EQ(world.messages.shown[0].text, "D2107 (Xc / Yc)");
   EXPECT_FALSE(frame.open);
@@ -462,7 +484,9 @@ TEST_F(MultiPoint, CancelEmptiesThePoint) {
     task.PunktSetzen(1, 2);
     start();
     for (int i = 0; i < positions; ++i) takeAt(120 * i);
+    view.changed = false;
     flow.CmdMehrPunkt(cancel);
+    EXPECT_TRUE(view.changed) << positions;
     EXPECT_TRUE(istLeer(X(1))) << positions;
     EXPECT_TRUE(istLeer(Y(1))) << positions;
     EXPECT_EQ(line().AktMP, 1) << positions;
@@ -510,6 +534,49 @@ TEST_F(MultiPoint, AnAnswerFromBeforeIsNoPositionOfTheNextOpening) {
   EXPECT_TRUE(free(take));
   takeAt(0);
   EXPECT_EQ(flow.messung().MehrPunktIst(), 1);
+}
+
+TEST_F(MultiPoint, AnAnswerFromBeforeIsNoneOfAPositionAskedForAnew) {
+  start();
+  bool reopened = false;
+  whenAsked('M', [&] {
+    if (std::exchange(reopened, true)) return;
+    flow.CmdMehrPunkt(cancel);
+    flow.XYMPKMP();
+    flow.CmdMehrPunkt(take);
+  });
+  flow.CmdMehrPunkt(take);
+  EXPECT_EQ(count('M'), 2U);
+  EXPECT_EQ(flow.messung().MehrPunktIst(), 1) << "the second answer, not the first";
+  EXPECT_TRUE(free(take));
+}
+
+TEST_F(MultiPoint, FailureInsideAPositionGivesTheButtonBack) {
+  start();
+  view.onRedraw = [this] {
+    view.onRedraw = nullptr;
+    throw std::runtime_error("no picture");
+  };
+  flow.CmdMehrPunkt(take);
+  EXPECT_TRUE(view.raised(IconFunk)) << "the link recovery";
+  EXPECT_EQ(flow.messung().MehrPunktIst(), 0);
+  EXPECT_TRUE(free(take));
+  EXPECT_FALSE(view.hourglass);
+}
+
+TEST_F(MultiPoint, FailureInsideAcceptLeavesTheCentreToBeAccepted) {
+  start();
+  takeThree();
+  view.onRedraw = [this] {
+    view.onRedraw = nullptr;
+    throw std::runtime_error("no picture");
+  };
+  flow.CmdMehrPunkt(accept);
+  EXPECT_TRUE(frame.open);
+  ASSERT_TRUE(free(accept));
+  flow.CmdMehrPunkt(accept);
+  EXPECT_FALSE(frame.open);
+  EXPECT_DOUBLE_EQ(X(1), 0.2);
 }
 
 TEST_F(MultiPoint, TheKeyCancelsAnOpenFrame) {
@@ -723,6 +790,18 @@ TEST_F(MultiPoint, AdaptivePositionEndsWhenTheUserIsAskedWhetherTheWindowMayGo) 
   EXPECT_TRUE(free(take));
   EXPECT_FALSE(view.hourglass);
   EXPECT_TRUE(istLeer(X(1)));
+}
+
+TEST_F(MultiPoint, TriggerWhileTheUserIsAskedTakesNoPosition) {
+  start();
+  takeAt(0);
+  EXPECT_FALSE(flow.darfSchliessen([this] {
+    world.head.changeDsr(true);
+    run(3);
+    return false;
+  }));
+  EXPECT_EQ(flow.messung().MehrPunktIst(), 1);
+  EXPECT_TRUE(world.head.RTSEnable());
 }
 
 TEST_F(MultiPoint, AcceptedCentreIsKeptWhenTheWindowGoesWhileItIsShown) {

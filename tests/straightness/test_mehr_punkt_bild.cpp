@@ -119,6 +119,18 @@ TEST_F(MehrPunktPicture, PositionsLieWhereTheyAreWithTheirNumbers) {
   EXPECT_THAT(content.all(Kind::circle), IsEmpty()) << "no circle before the evaluation";
 }
 
+TEST_F(MehrPunktPicture, NumbersKeepClearOfTheDialAndOfTheCentre) {
+  taken({{0.5, 0.1}, {0, 0.5}, {-0.5, -0.1}, {0.1, 0.1}}).auswerten();
+  draw();
+  const auto numbers = content.all(Kind::text);
+  ASSERT_EQ(numbers.size(), 4U);
+  EXPECT_EQ(numbers[0].horizontal, HorizontalAnchor::right) << "from the right edge inward";
+  EXPECT_EQ(numbers[2].horizontal, HorizontalAnchor::left);
+  EXPECT_EQ(numbers[2].vertical, VerticalAnchor::bottom);
+  EXPECT_LT(std::hypot(0.1 - picture.ursprung.x, 0.1 - picture.ursprung.y), picture.bereich / 2);
+  EXPECT_EQ(numbers[3].horizontal == HorizontalAnchor::left, 0.1 >= picture.ursprung.x) << "outward";
+}
+
 TEST_F(MehrPunktPicture, PositionsAtOnePlaceShareTheirNumber) {
   taken({{0.5, 0.5}, {0.5, 0.5}, {0.9, 0.5}, {0.5, 0.5}});
   draw();
