@@ -43,7 +43,7 @@ std::string Walk::statistics() {
   hand_.picture(names::position, QStringLiteral("position-statistics"));
   QStringList read;
   for (const char* axis : {"X", "Y"}) {
-    for (int line = 1; line <= 3; ++line) {
+    for (int line = 0; line < 3; ++line) {
       const QString text = hand_.label(
           names::position, QStringLiteral("Panel%1Statistik(%2)").arg(QLatin1String(axis)).arg(line));
       if (text.contains(QLatin1Char('?'))) throw StepFailed("a line reads " + text.toStdString());

@@ -1,24 +1,14 @@
 #include "link/ui/data_window.h"
 
-#include <QHBoxLayout>
 #include <QMenu>
-#include <QSplitter>
 #include <utility>
 
 #include "frame/cp1252.h"
 #include "frame/pfade.h"
 #include "frame/ui/qt_text.h"
-#include "frame/ui/theme.h"
-#include "frame/zahl_text.h"
 #include "link/tasten_sperre.h"
 
 namespace korvin {
-namespace {
-
-constexpr std::int16_t Inch = 1;
-
-}  // namespace
-
 DatenFenster::DatenFenster(const ZyklusUmgebung& umgebung, MSComm& control, Messaufgabe& aufgabe,
                            const FensterDienste& dienste, const QString& dateiInfo, QWidget* parent)
     : Messfenster(umgebung, control, aufgabe, parent),
@@ -34,41 +24,7 @@ DateiBefehlUmgebung DatenFenster::befehlUmgebung(Messdaten& daten) {
 // ---- Menus ----
 
 void DatenFenster::dateiMenu() {
-  QMenu* menu = menuAnlegen("M_Datei", 7180);
-  const auto eintrag = [&](const char* name, std::int16_t text, const char* key) {
-    menuEintrag(
-        menu, name, text, [this, key] { drueckeTaste(key); }, key);
-  };
-  eintrag("M_Neu", 1002, "NEU");
-  eintrag("M_Oeffnen", 1007, "LADEN");
-  eintrag("M_Speichern", 7181, "SPEICHERN");
-  QAction* unter =
-      menuEintrag(menu, "M_SpeichernUnter", 7182, [this] { sichern(&DateiBefehle::M_SpeichernUnter); });
-  unter->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
-  menu->addSeparator();
-  eintrag("M_ProtokollDrucken", 7183, "DRUCKEN");
-  menu->addSeparator();
-  menuEintrag(menu, "M_Beenden", 1024, [this] { close(); });
-}
-
-QMenu* DatenFenster::messMenu(std::int16_t einzel, std::int16_t laufend, std::int16_t schnell) {
-  QMenu* menu = menuAnlegen("M_Messung", 1001);
-  const auto eintrag = [&](const char* name, std::int16_t text, const char* key) {
-    menuEintrag(
-        menu, name, text, [this, key] { drueckeTaste(key); }, key);
-  };
-  eintrag("M_SingleMeas", einzel, "XYMP1");
-  eintrag("M_PJustage", laufend, "XYMPN");
-  eintrag("M_QJustage", schnell, "XYMPNN");
-  return menu;
-}
-
-void DatenFenster::punktListenEintrag(QMenu* menu, std::function<void(bool an)> zeigen) {
-  QAction* eintrag = menuEintrag(menu, "M_PunktListe", 7370, [] {});
-  eintrag->setCheckable(true);
-  eintrag->setChecked(true);
-  eintrag->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_L));
-  connect(eintrag, &QAction::toggled, this, std::move(zeigen));
+  Messfenster::dateiMenu({.speichernUnter = [this] { sichern(&DateiBefehle::M_SpeichernUnter); }});
 }
 
 void DatenFenster::extrasUndHilfeMenu() {
@@ -81,30 +37,8 @@ void DatenFenster::extrasUndHilfeMenu() {
 
 // ---- Showing ----
 
-void DatenFenster::mitteAnordnen(QWidget& bild, int hundertstel, QWidget& panels, QWidget& liste) {
-  auto* spalte = new QSplitter(Qt::Vertical, mitte());
-  spalte->setChildrenCollapsible(false);
-  spalte->setHandleWidth(scaled(5));
-  spalte->addWidget(&panels);
-  spalte->addWidget(&liste);
-  spalte->setStretchFactor(0, 3);
-  spalte->setStretchFactor(1, 2);
-  auto* reihe = new QHBoxLayout(mitte());
-  reihe->setContentsMargins(0, 0, 0, 0);
-  reihe->setSpacing(scaled(10));
-  reihe->addWidget(&bild, hundertstel);
-  reihe->addWidget(spalte, 100 - hundertstel);
-}
-
 void DatenFenster::titelZeigen() {
   setWindowTitle(qText(titel()));
-}
-
-void DatenFenster::werteAnpassen(int NKStellen) {
-  const bool inch = umgebung().system.Masssystem == Inch;
-  const QString ganze = inch ? QStringLiteral("-000") : QStringLiteral("-00");
-  const QString breitester = ganze + qText(ZahlMuster(NKStellen)).mid(1);
-  for (ValuePanel* feld : wertfelder) feld->setWidestText(breitester);
 }
 
 PictureDesk DatenFenster::bildAblage() {

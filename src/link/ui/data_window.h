@@ -59,22 +59,13 @@ class DatenFenster : public Messfenster {
   /// What the commands on `daten` work with.
   DateiBefehlUmgebung befehlUmgebung(Messdaten& daten);
 
-  /// The menu of the file, in which each entry presses its toolbar key.
+  /// The menu of the file.
   void dateiMenu();
-  /// The three ways to take a reading, captions for single, running and fast ones.
-  QMenu* messMenu(std::int16_t einzel, std::int16_t laufend, std::int16_t schnell);
-  /// Lays out the middle: `bild` to the left with so many hundredths of the width, beside it `panels` over
-  /// `liste`.
-  void mitteAnordnen(QWidget& bild, int hundertstel, QWidget& panels, QWidget& liste);
-  /// The entry of `menu` that shows or hides the table of points by `zeigen`.
-  void punktListenEintrag(QMenu* menu, std::function<void(bool an)> zeigen);
   /// The menus of the settings and of the help.
   void extrasUndHilfeMenu();
   /// Where pictures of diagrams go: to the folder of the file, under its name.
   PictureDesk bildAblage();
   void titelZeigen();
-  /// Room for the widest value with that many decimals in all value panels; `Masssystem` 1 is mil.
-  void werteAnpassen(int NKStellen);
 
   bool schliessenErlaubt() override { return befehle().aenderungenBehandelt(); }
   /// The keys of these commands.

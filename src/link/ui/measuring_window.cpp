@@ -24,7 +24,6 @@ constexpr std::int16_t TextService = 7200;
 constexpr std::int16_t TextSchieber = 7201;
 constexpr std::int16_t TextTelegramme = 7204;
 constexpr std::int16_t TextEinzel = 7221;
-constexpr std::int16_t TextSchnell = 7223;
 constexpr std::int16_t TextSchliesst = 7225;
 constexpr std::int16_t TextAdaptiv = 7619;
 constexpr std::int16_t TextFortschritt = 7620;
@@ -112,7 +111,7 @@ QString Messfenster::qDicText(std::int16_t id) {
   return qText(u_.dictionary.DicText(id));
 }
 
-void Messfenster::tastenAnlegen(const QString& name, std::span<const TastenZeile> tabelle) {
+KeyToolBar& Messfenster::tastenAnlegen(const QString& name, std::span<const TastenZeile> tabelle) {
   toolBar_ = new KeyToolBar(name, this);
   for (const TastenZeile& zeile : tabelle) {
     const QString key = QString::fromLatin1(zeile.key);
@@ -124,15 +123,16 @@ void Messfenster::tastenAnlegen(const QString& name, std::span<const TastenZeile
     toolBar_->add(key, QString::fromLatin1(zeile.picture), zeile.kind, kuerzel);
     kuerzel_.insert(key, kuerzel.toString(QKeySequence::NativeText));
     QString worte = qDicText(zeile.text);
-    if (zeile.later) {
-      spaeter_.insert(key);
+    if (const std::int16_t grund = zeile.later ? TextSpaeter : zeile.idle; grund != 0) {
+      ohneAufgabe_.insert(key, grund);
       toolBar_->setKeyEnabled(key, false);
-      worte += spaeterHinweis();
+      worte += QLatin1Char('\n') + qDicText(grund);
     }
     toolBar_->setWords(key, worte);
   }
   toolBar_->onButton = [this](const QString& key) { onTaste(key); };
   addToolBar(toolBar_);
+  return *toolBar_;
 }
 
 QMenu* Messfenster::menuAnlegen(const char* name, std::int16_t text) {
@@ -152,19 +152,15 @@ QAction* Messfenster::menuEintrag(QMenu* menu, const char* name, std::int16_t te
     eintraege_[taste].push_back(eintrag);
     // The toolbar's button owns the shortcut; behind a tab the entry only shows it.
     if (!kuerzel_.value(taste).isEmpty()) eintrag->setText(worte + QLatin1Char('\t') + kuerzel_.value(taste));
-    if (spaeter_.contains(taste)) kommtSpaeter(eintrag);
+    if (ohneAufgabe_.contains(taste)) ohneAufgabe(eintrag, ohneAufgabe_.value(taste));
   }
   connect(eintrag, &QAction::triggered, this, std::move(befehl));
   return eintrag;
 }
 
-QString Messfenster::spaeterHinweis() {
-  return QLatin1Char('\n') + qDicText(TextSpaeter);
-}
-
-void Messfenster::kommtSpaeter(QAction* eintrag) {
+void Messfenster::ohneAufgabe(QAction* eintrag, std::int16_t grund) {
   eintrag->setEnabled(false);
-  eintrag->setToolTip(qDicText(TextSpaeter));
+  eintrag->setToolTip(qDicText(grund));
 }
 
 void Messfenster::verbindungsMenu() {
@@ -246,6 +242,7 @@ void Messfenster::onTaste(const QString& key) {
 void Messfenster::messtaste(const QString& key, char zustand) {
   // What a measuring key shows is the cycle's: a click alone changes nothing.
   toolBar_->setPressed(key, !toolBar_->isPressed(key));
+  messtasteGedrueckt();
   zyklus_.anfordern(zustand);
 }
 
@@ -257,7 +254,7 @@ void Messfenster::zeigeTaste(const std::string& taste, bool gedrueckt) {
 
 void Messfenster::setTasteFrei(const std::string& taste, bool frei) {
   const QString key = qText(taste);
-  if (spaeter_.contains(key)) return;
+  if (ohneAufgabe_.contains(key)) return;
   toolBar_->setKeyEnabled(key, frei);
   for (QAction* eintrag : eintraege_.value(key)) eintrag->setEnabled(frei);
 }

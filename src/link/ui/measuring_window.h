@@ -4,7 +4,6 @@
 #include <QHash>
 #include <QMainWindow>
 #include <QProgressBar>
-#include <QSet>
 #include <QString>
 #include <QVector>
 #include <array>
@@ -31,15 +30,22 @@ struct TastenZeile {
   const char* key;
   const char* picture;
   KeyToolBar::Kind kind;
-  const char* shortcut;  ///< in Qt's portable form, or empty
-  std::int16_t text;     ///< tooltip
-  bool later = false;    ///< shown, but without its job yet: never enabled
+  const char* shortcut;   ///< in Qt's portable form, or empty
+  std::int16_t text;      ///< tooltip
+  bool later = false;     ///< shown, but without its job yet: never enabled
+  std::int16_t idle = 0;  ///< if not 0: without a job in this window, never enabled; the text says so
 };
 
-/// Numbers of texts in the line that says what the window is doing: nothing but polling, a running
-/// measurement.
+/// What the menu of the file does beside pressing keys.
+struct DateiMenuBefehle {
+  std::function<void()> neu{};             ///< in place of the key "NEU"
+  std::function<void()> speichernUnter{};  ///< without it the entry has no job
+};
+
+// Numbers of texts in the line that says what the window is doing.
 inline constexpr std::int16_t TextBereit = 7220;
 inline constexpr std::int16_t TextLaufend = 7222;
+inline constexpr std::int16_t TextSchnell = 7223;
 
 /// The shell of every measuring window: toolbar, link indicator, head panel, service line and panel, closing
 /// in two steps, and the measuring cycle behind them, which it shows as the cycle asks.
@@ -70,6 +76,8 @@ class Messfenster : public QMainWindow, public MessfensterAnsicht {
   virtual bool schliessenErlaubt() = 0;
   /// A toolbar key that the shell doesn't know was pressed; `gedrueckt` is its new state.
   virtual void taste(const QString& key, bool gedrueckt) = 0;
+  /// One of the measuring keys was pressed; the cycle is told next.
+  virtual void messtasteGedrueckt() {}
   /// The window is about to go.
   virtual void wirdEntladen() {}
   /// Number of the text that says what the window is doing.
@@ -87,20 +95,29 @@ class Messfenster : public QMainWindow, public MessfensterAnsicht {
   QString dicText(std::int16_t id) { return qDicText(id); }
 
   /// Makes the toolbar of this name from its table.
-  void tastenAnlegen(const QString& name, std::span<const TastenZeile> tabelle);
+  KeyToolBar& tastenAnlegen(const QString& name, std::span<const TastenZeile> tabelle);
   /// Where a window lays out its own panels; the head panel is laid out by it too.
   QWidget* mitte() { return mitte_; }
+  /// Lays out the middle: `bild` to the left with so many hundredths of the width, beside it `panels` over
+  /// `liste`.
+  void mitteAnordnen(QWidget& bild, int hundertstel, QWidget& panels, QWidget& liste);
   /// The panels that the cycle colours and empties.
   QVector<ValuePanel*> wertfelder;
+  /// Room for the widest value with that many decimals in all of them; `Masssystem` 1 is mil.
+  void werteAnpassen(int NKStellen);
   /// Menu entry with the name `name` that does `befehl`; `key` is the toolbar key of the same job, whose
   /// shortcut it shows.
   QAction* menuEintrag(QMenu* menu, const char* name, std::int16_t text, std::function<void()> befehl,
                        const char* key = nullptr);
   QMenu* menuAnlegen(const char* name, std::int16_t text);
-  /// An entry whose job is still to come: visible, disabled, with a tooltip that says so.
-  void kommtSpaeter(QAction* eintrag);
-  /// The line that such a key's tooltip ends with.
-  QString spaeterHinweis();
+  /// An entry without a job: visible, disabled, with a tooltip that says why.
+  void ohneAufgabe(QAction* eintrag, std::int16_t grund);
+  /// The menu of the file, in which each entry presses its toolbar key.
+  void dateiMenu(const DateiMenuBefehle& befehle);
+  /// The three ways to take a reading, captions for single, running and fast ones.
+  QMenu* messMenu(std::int16_t einzel, std::int16_t laufend, std::int16_t schnell);
+  /// The entry of `menu` that shows or hides the table of points by `zeigen`.
+  void punktListenEintrag(QMenu* menu, std::function<void(bool an)> zeigen);
   /// The two entries of the link.
   void verbindungsMenu();
   /// Runs `befehl` once no tick is under way; never while the window is closing.
@@ -155,7 +172,7 @@ class Messfenster : public QMainWindow, public MessfensterAnsicht {
   QAction* M_KVNSimulation_ = nullptr;
   QHash<QString, QVector<QAction*>> eintraege_;  ///< menu entries by the toolbar key of the same job
   QHash<QString, QString> kuerzel_;              ///< shortcuts of the keys, as the user reads them
-  QSet<QString> spaeter_;                        ///< keys whose job is still to come
+  QHash<QString, std::int16_t> ohneAufgabe_;     ///< keys without a job, and the text that says why
   QEventLoop schleife_;
   std::int16_t gezeigterBetrieb_ = 0;
   bool einzelLaeuft_ = false;

@@ -39,6 +39,7 @@ class DiagramArea : public QWidget {
   void setStatistik(bool an) { statistik_->setVisible(an); }
   void setBereichsleiste(bool an);
 
+  PictureStatistik& statistik() { return *statistik_; }
   PictureXYDiagramm& diagramm() { return *diagramm_; }
   QVector<ValuePanel*> werte() const { return zoom_->werte(); }
 

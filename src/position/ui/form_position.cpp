@@ -17,7 +17,6 @@ using Kind = KeyToolBar::Kind;
 
 constexpr int TimerUhrMs = 100;
 constexpr std::int16_t TextWartetAufStart = 7224;
-constexpr std::int16_t Inch = 1;
 
 /// The toolbar, in its order; a line without a key is a gap between groups.
 constexpr std::array<TastenZeile, 24> Tasten = {{{"NEU", "ICON1", Kind::push, "Ctrl+N", 2000},
@@ -53,15 +52,16 @@ FormPosition::FormPosition(const PositionUmgebung& umgebung, QWidget* parent)
       p_(umgebung),
       daten_(p_.formpos, p_.erfassung, p_.dateien),
       befehle_(befehlUmgebung(daten_)),
-      punkte_(p_.formpos.punkte(), p_.formpos.arbeit()),
+      board_({p_.formpos, p_.erfassung, p_.zyklus.system,
+              tastenAnlegen(QStringLiteral("tbrPosition"), Tasten), kopf(), bildAblage()},
+             mitte()),
       TimerUhr_(p_.zyklus.timers.create()) {
   setObjectName(QStringLiteral("FormPosition"));
-  tastenAnlegen(QStringLiteral("tbrPosition"), Tasten);
   layoutAnlegen();
   menusAnlegen();
   beschriften();
   TimerUhr_->setInterval(TimerUhrMs);
-  TimerUhr_->onTick = [this] { panels_->zeigeUhr(qText(panelZeit(p_.zyklus.clock.now()))); };
+  TimerUhr_->onTick = [this] { board_.panels().zeigeUhr(qText(panelZeit(p_.zyklus.clock.now()))); };
 }
 
 // ---- Building ----
@@ -77,40 +77,24 @@ void FormPosition::menusAnlegen() {
   M_xyNumZoom_ = menuEintrag(
       ansicht, "M_xyNumZoom", 7191, [this] { M_xyNumZoom(); }, "NZOOM");
   M_xyNumZoom_->setCheckable(true);
-  M_Gitter_ = menuEintrag(ansicht, "M_Gitter", 7192, [this] { M_Gitter(); });
-  M_Gitter_->setCheckable(true);
-  M_Gitter_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_G));
+  board_.gitterEintrag(*menuEintrag(ansicht, "M_Gitter", 7192, [] {}));
   ansicht->addSeparator();
-  punktListenEintrag(ansicht, [this](bool an) { liste_->setVisible(an); });
+  punktListenEintrag(ansicht, [this](bool an) { board_.liste().setVisible(an); });
 
   verbindungsMenu();
   extrasUndHilfeMenu();
 }
 
 void FormPosition::layoutAnlegen() {
-  const auto gewaehlt = [this](int nummer) { cursor(nummer - Info().MPAktuell); };
-  bild_ = new DiagramArea(p_.formpos, p_.zyklus.system, bildAblage(), mitte());
-  bild_->onChosen = gewaehlt;
-  liste_ = new PointList(punkte_, mitte());
-  liste_->onChosen = gewaehlt;
-  panels_ = new PositionPanels(&kopf(), mitte());
-  wertfelder = panels_->werte() + bild_->werte();
+  board_.onGeaendert = [this] { neuZeichnen(false); };
+  wertfelder = board_.werte();
   tasten().setPressed(QStringLiteral("STATISTIK"), true);
-
-  mitteAnordnen(*bild_, 58, *panels_, *liste_);
-  liste_->setFocus();
+  mitteAnordnen(board_.bild(), 58, board_.panels(), board_.liste());
+  board_.liste().setFocus();
 }
 
 void FormPosition::beschriften() {
-  const QString einheit =
-      p_.zyklus.system.Masssystem == Inch ? QStringLiteral("[mil]") : QStringLiteral("[mm]");
-  const QString luecke = QStringLiteral(" ");
-  punkte_.setHeadings(
-      {dicText(7150), dicText(7151), dicText(7152) + luecke + einheit, dicText(7153) + luecke + einheit});
-  liste_->setEmptyText(dicText(7155));
-  liste_->setAccessibleName(dicText(7154));
-  panels_->setTexte(dictionary(), einheit);
-  bild_->setTexte(dictionary(), einheit);
+  board_.setTexte(dictionary());
   tasten().setWords(QStringLiteral("XYAMPL"), QStringLiteral("XY-") + dicText(3061));
 }
 
@@ -124,19 +108,11 @@ void FormPosition::ersteAktivierung() {
 }
 
 void FormPosition::datenZeigen() {
-  const PositionsInfo& info = Info();
   zyklus().kopfZeigen();
-  tasten().setPressed(QStringLiteral("OFFSET"), static_cast<bool>(info.OffsetAktiv));
-  tasten().setPressed(QStringLiteral("ALLE"), !info.NurAktuell);
-  tasten().setPressed(QStringLiteral("x"), static_cast<bool>(info.ZeigeMittel));
-  tasten().setPressed(QStringLiteral("s"), static_cast<bool>(info.ZeigeStreuung));
-  tasten().setPressed(QStringLiteral("R"), static_cast<bool>(info.ZeigeSpanne));
-  M_Gitter_->setChecked(static_cast<bool>(info.Gitter));
   numZoomZeigen();
   titelZeigen();
-  werteAnpassen(info.NKStellen);
-  liste_->reload();
-  bild_->zeigeNeu(positionsTexte(p_.formpos));
+  werteAnpassen(Info().NKStellen);
+  board_.zeigeNeu();
   neuZeichnen(false);
 }
 
@@ -148,17 +124,15 @@ void FormPosition::neuZeichnen(bool geaendert) {
   if (!Anzeige_) return;
   if (geaendert) Info().Geaendert = true;
   const PositionsTexte texte = positionsTexte(p_.formpos);
-  panels_->zeigeWerte(texte);
-  bild_->zeige(texte);
-  liste_->follow();
+  board_.zeige(texte);
   statusZeigen(texte);
 }
 
 void FormPosition::statusZeigen(const PositionsTexte& texte) {
-  panels_->zeigeStatus(texte);
+  board_.panels().zeigeStatus(texte);
   const bool plan = texte.StartZeit || texte.StopZeit;
   if (TimerUhr_->enabled() != plan)
-    panels_->zeigeUhr(plan ? qText(panelZeit(p_.zyklus.clock.now())) : QString());
+    board_.panels().zeigeUhr(plan ? qText(panelZeit(p_.zyklus.clock.now())) : QString());
   TimerUhr_->setEnabled(plan);
   betriebZeigen();
 }
@@ -178,7 +152,7 @@ void FormPosition::numZoomZeigen() {
   const auto an = static_cast<bool>(p_.formpos.arbeit().X.NumZoom);
   tasten().setPressed(QStringLiteral("NZOOM"), an);
   M_xyNumZoom_->setChecked(an);
-  bild_->setNumZoom(an);
+  board_.bild().setNumZoom(an);
 }
 
 // ---- Closing ----
@@ -191,16 +165,10 @@ void FormPosition::wirdEntladen() {
 
 void FormPosition::taste(const QString& key, bool gedrueckt) {
   if (key == QLatin1String("LOESCHEN")) M_MessLöschen();
-  if (key == QLatin1String("STATISTIK")) bild_->setStatistik(gedrueckt);
-  if (key == QLatin1String("x")) schalter(Info().ZeigeMittel, gedrueckt);
-  if (key == QLatin1String("s")) schalter(Info().ZeigeStreuung, gedrueckt);
-  if (key == QLatin1String("R")) schalter(Info().ZeigeSpanne, gedrueckt);
+  if (key == QLatin1String("STATISTIK")) board_.bild().setStatistik(gedrueckt);
   if (key == QLatin1String("NZOOM")) M_xyNumZoom();
-  if (key == QLatin1String("XYAMPL")) bild_->setBereichsleiste(gedrueckt);
-  if (key == QLatin1String("ALLE")) schalter(Info().NurAktuell, !gedrueckt);
-  if (key == QLatin1String("MPL")) cursor(-1);
-  if (key == QLatin1String("MPR")) cursor(1);
-  if (key == QLatin1String("OFFSET")) offset(gedrueckt);
+  if (key == QLatin1String("XYAMPL")) board_.bild().setBereichsleiste(gedrueckt);
+  board_.taste(key, gedrueckt);
   DatenFenster::taste(key, gedrueckt);
 }
 
@@ -218,28 +186,6 @@ void FormPosition::M_xyNumZoom() {
   arbeit.X.NumZoom = an;
   arbeit.Y.NumZoom = an;
   numZoomZeigen();
-}
-
-void FormPosition::M_Gitter() {
-  gitterUmschalten(p_.formpos.arbeit());
-  M_Gitter_->setChecked(static_cast<bool>(Info().Gitter));
-  neuZeichnen(false);
-}
-
-void FormPosition::schalter(Flagge& flagge, bool an) {
-  flagge = an;
-  neuZeichnen(false);
-}
-
-void FormPosition::offset(bool an) {
-  const bool genommen = p_.erfassung.offsetSchalten(an);
-  tasten().setPressed(QStringLiteral("OFFSET"), an && genommen);
-  neuZeichnen(false);
-}
-
-void FormPosition::cursor(int schritt) {
-  p_.erfassung.cursorBewegen(schritt);
-  neuZeichnen(false);
 }
 
 }  // namespace korvin

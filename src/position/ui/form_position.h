@@ -4,13 +4,10 @@
 #include <string>
 
 #include "link/ui/data_window.h"
-#include "link/ui/point_list.h"
 #include "position/commands.h"
 #include "position/erfassung.h"
 #include "position/formpos.h"
-#include "position/ui/diagram_area.h"
-#include "position/ui/point_list_model.h"
-#include "position/ui/position_panels.h"
+#include "position/ui/position_board.h"
 
 namespace korvin {
 
@@ -55,22 +52,14 @@ class FormPosition : public DatenFenster {
 
   void M_MessLöschen();
   void M_xyNumZoom();
-  void M_Gitter();
-  void schalter(Flagge& flagge, bool an);
-  void offset(bool an);
-  void cursor(int schritt);
 
   PositionsInfo& Info() { return p_.formpos.Info(); }
 
   PositionUmgebung p_;
   PositionsDaten daten_;
   DateiBefehle befehle_;
-  PointListModel punkte_;
-  PointList* liste_ = nullptr;
-  DiagramArea* bild_ = nullptr;
-  PositionPanels* panels_ = nullptr;
+  PositionBoard board_;
   QAction* M_xyNumZoom_ = nullptr;
-  QAction* M_Gitter_ = nullptr;
   std::unique_ptr<Timer> TimerUhr_;
   bool Anzeige_ = false;
 };

@@ -10,38 +10,53 @@ namespace korvin {
 namespace {
 
 constexpr double lineScale = 1.2;
+constexpr int headIndex = 3;
+// The two axes number this line differently; kept, since lines are known by their index.
+constexpr int maximumIndexX = 5;
+constexpr int maximumIndexY = 4;
 
 }  // namespace
 
-AxisStatistics::AxisStatistics(const QString& axis, QWidget* parent) : QWidget(parent), axis_(axis) {
+AxisStatistics::AxisStatistics(const QString& axis, int maximumIndex, QWidget* parent)
+    : QWidget(parent), axis_(axis) {
   setObjectName(QStringLiteral("Panel%1Statistik").arg(axis));
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(scaled(1));
-  for (std::size_t i = 0; i < lines_.size(); ++i) {
-    auto* line = new QLabel(this);
-    line->setObjectName(objectName() + QStringLiteral("(%1)").arg(i));
-    line->setTextFormat(Qt::PlainText);
-    line->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    line->setFont(themeFont(i == 0 ? 1 : lineScale));
-    setTextColour(*line, i == 0 ? panelCaption() : QColor(Qt::white));
-    column->addWidget(line);
-    lines_[i] = line;
-  }
+  head_ = addLine(headIndex, 1, panelCaption());
+  for (std::size_t i = 0; i < lines_.size(); ++i)
+    lines_[i] = addLine(static_cast<int>(i), lineScale, Qt::white);
+  maximum_ = addLine(maximumIndex, lineScale, Qt::white);
+  maximum_->hide();
   column->addStretch();
 }
 
+QLabel* AxisStatistics::addLine(int index, double scale, const QColor& colour) {
+  auto* line = new QLabel(this);
+  line->setObjectName(objectName() + QStringLiteral("(%1)").arg(index));
+  line->setTextFormat(Qt::PlainText);
+  line->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  line->setFont(themeFont(scale));
+  setTextColour(*line, colour);
+  layout()->addWidget(line);
+  return line;
+}
+
 void AxisStatistics::zeige(int anzahl, const StatistikTexte& texte) {
-  lines_[0]->setText(QStringLiteral("%1   n %2").arg(axis_).arg(anzahl));
-  showOptional(*lines_[1], texte.x);
-  showOptional(*lines_[2], texte.s);
-  showOptional(*lines_[3], texte.R);
+  head_->setText(QStringLiteral("%1   n %2").arg(axis_).arg(anzahl));
+  showOptional(*lines_[0], texte.x);
+  showOptional(*lines_[1], texte.s);
+  showOptional(*lines_[2], texte.R);
+}
+
+void AxisStatistics::zeigeMaximum(const std::optional<std::string>& text) {
+  showOptional(*maximum_, text);
 }
 
 PictureStatistik::PictureStatistik(QWidget* parent)
     : DarkPanel(parent),
-      x_(new AxisStatistics(QStringLiteral("X"), this)),
-      y_(new AxisStatistics(QStringLiteral("Y"), this)) {
+      x_(new AxisStatistics(QStringLiteral("X"), maximumIndexX, this)),
+      y_(new AxisStatistics(QStringLiteral("Y"), maximumIndexY, this)) {
   setObjectName(QStringLiteral("PictureStatistik"));
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   auto* row = new QHBoxLayout(this);
@@ -55,6 +70,11 @@ PictureStatistik::PictureStatistik(QWidget* parent)
 void PictureStatistik::zeige(PositionsDatei& datei) {
   x_->zeige(datei.Info.AnzahlMP, statistikTexte(datei.X, datei.Info));
   y_->zeige(datei.Info.AnzahlMP, statistikTexte(datei.Y, datei.Info));
+}
+
+void PictureStatistik::zeigeMaxima(const std::optional<std::string>& x, const std::optional<std::string>& y) {
+  x_->zeigeMaximum(x);
+  y_->zeigeMaximum(y);
 }
 
 }  // namespace korvin

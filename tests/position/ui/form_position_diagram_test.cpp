@@ -287,30 +287,30 @@ TEST_F(Diagram, StatisticsPanelIsSwitchedByItsKey) {
 
 TEST_F(Diagram, LinesOfTheStatisticsAreSwitchedOneByOne) {
   show();
-  EXPECT_FALSE(shown("PanelXStatistik(1)"));
+  EXPECT_FALSE(shown("PanelXStatistik(0)"));
   info().SFak = 2;
   click("x");
   EXPECT_TRUE(info().ZeigeMittel);
-  EXPECT_EQ(text("PanelXStatistik(1)"), "x  ?.?");
+  EXPECT_EQ(text("PanelXStatistik(0)"), "x  ?.?");
   click("s");
   click("R");
   EXPECT_TRUE(info().ZeigeStreuung);
   EXPECT_TRUE(info().ZeigeSpanne);
-  EXPECT_EQ(text("PanelXStatistik(0)"), "X   n 0");
-  EXPECT_EQ(text("PanelXStatistik(2)"), "±2s ?.?");
-  EXPECT_EQ(text("PanelXStatistik(3)"), "R ?.?");
+  EXPECT_EQ(text("PanelXStatistik(3)"), "X   n 0");
+  EXPECT_EQ(text("PanelXStatistik(1)"), "±2s ?.?");
+  EXPECT_EQ(text("PanelXStatistik(2)"), "R ?.?");
   takePoints(3);
-  EXPECT_EQ(text("PanelXStatistik(0)"), "X   n 3");
-  EXPECT_EQ(text("PanelXStatistik(1)"), "x 0.2000");
-  EXPECT_EQ(text("PanelXStatistik(2)"), "±2s 0.2000");
-  EXPECT_EQ(text("PanelXStatistik(3)"), "R 0.2000");
-  EXPECT_EQ(text("PanelYStatistik(1)"), "x 0.0000");
+  EXPECT_EQ(text("PanelXStatistik(3)"), "X   n 3");
+  EXPECT_EQ(text("PanelXStatistik(0)"), "x 0.2000");
+  EXPECT_EQ(text("PanelXStatistik(1)"), "±2s 0.2000");
+  EXPECT_EQ(text("PanelXStatistik(2)"), "R 0.2000");
+  EXPECT_EQ(text("PanelYStatistik(0)"), "x 0.0000");
   EXPECT_NEAR(X().Mittel, 0.2, 1e-12);
   EXPECT_NEAR(X().Streuung, 0.1, 1e-12);
   click("s");
   EXPECT_FALSE(info().ZeigeStreuung);
-  EXPECT_FALSE(shown("PanelXStatistik(2)"));
-  EXPECT_TRUE(shown("PanelXStatistik(3)"));
+  EXPECT_FALSE(shown("PanelXStatistik(1)"));
+  EXPECT_TRUE(shown("PanelXStatistik(2)"));
 }
 
 TEST_F(Diagram, DeletingReleasesTheStatisticsKeys) {
@@ -319,7 +319,7 @@ TEST_F(Diagram, DeletingReleasesTheStatisticsKeys) {
   takePoints(1);
   click("LOESCHEN");
   EXPECT_FALSE(pressed("x"));
-  EXPECT_FALSE(shown("PanelXStatistik(1)"));
+  EXPECT_FALSE(shown("PanelXStatistik(0)"));
 }
 
 TEST_F(Diagram, KeysOfTheDiagramWorkDuringARun) {
