@@ -59,6 +59,11 @@ Station::Station(const FolderEnvironment& environment, Appearance appearance)
                              const auto& ausserhalb) { einrichtenGerad(fenster, &offeneReihe_, ausserhalb); },
                       [this](QWidget* fenster) { geradProtokoll_.drucken(fenster); }),
           formgera_, geradErfassung_, geradDateien_),
+      adaptSet_(profil_),
+      umgebungsErfassung_(
+          {clock_, messages_, dictionary_, profil_, messplatz_.meldung, messplatz_.system, formpos_},
+          adaptSet_),
+      umgebungsStarter_(windowStart({}, {}), formpos_, umgebungsErfassung_),
       verteilung_(messplatz_.system.Messart, dictionary_, messages_, messplatz_.meldung),
       programmstart_(messplatz_.system, messplatz_.meldung, settings_, anzeige_, dictionary_, messages_),
       hilfe_((folders_.program / helpFile).string(), [this] { return int{anzeige_.Sprache()}; }, dictionary_,
@@ -71,6 +76,7 @@ Station::Station(const FolderEnvironment& environment, Appearance appearance)
   geradStarter_.setFenster(&window_);
   window_.grundeinstellungen[MessartPosition] = [this] { einrichtenPosition(window_, nullptr, {}); };
   window_.grundeinstellungen[MessartGeradheit] = [this] { einrichtenGerad(window_, nullptr, {}); };
+  window_.weitereFenster["UmgebungsAnalyse"] = [this] { umgebungsStarter_.zeigen(&window_); };
   window_.beiErsterAktivierung = [this] { return kopfsuche_.suchen(window_); };
   window_.linkZeile = [this] { return kopfsuche_.zeile(); };
   window_.beiEntladen = [this] { unload(); };

@@ -5,6 +5,9 @@
 
 #include "dialogs/ui/form_options_g.h"
 #include "dialogs/ui/form_options_o.h"
+#include "environment/adapt_set.h"
+#include "environment/ui/umgebungs_starter.h"
+#include "environment/umgebungs_erfassung.h"
 #include "frame/clock.h"
 #include "frame/datei_verteilung.h"
 #include "frame/display_choice.h"
@@ -120,6 +123,9 @@ class Station {
   GeradDateien geradDateien_;
   GeradProtokoll geradProtokoll_;
   GeradStarter geradStarter_;
+  AdaptSet adaptSet_;
+  UmgebungsErfassung umgebungsErfassung_;
+  UmgebungsStarter umgebungsStarter_;
   DateiVerteilung verteilung_;
 
   // The main window.

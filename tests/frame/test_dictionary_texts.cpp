@@ -146,6 +146,7 @@ const std::vector<std::vector<std::int16_t>> menus = {
     {1002, 1007, 7181, 7182, 7183, 1024},        // M_Datei
     {7185, 7186, 7187, 7188},                    // measuring
     {7191, 7192, 7370},                          // M_Panel
+    {7185, 7186, 7715, 7716},                    // measuring of an analysis
     {7185, 7530, 7531},                          // measuring of a line
     {7532, 7533, 7192, 7370, 7616},              // M_Panel of FormGeradheit
     {7101, 7102},                                // link

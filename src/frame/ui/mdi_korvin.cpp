@@ -52,8 +52,9 @@ QString name(const char16_t* text) {
   return QString::fromUtf16(text);
 }
 
-/// Entries without a window yet.
-constexpr std::array<const char16_t*, 2> entriesToCome = {u"M_GeradheitStatistik", u"M_UmgebungsAnalyse"};
+/// Windows that are no measuring kind of their own, by their keys, with their entries.
+constexpr std::array<std::pair<const char16_t*, const char16_t*>, 2> furtherWindows = {
+    {{u"GeradheitStatistik", u"M_GeradheitStatistik"}, {u"UmgebungsAnalyse", u"M_UmgebungsAnalyse"}}};
 
 /// The entries of the default settings and the kinds they belong to.
 constexpr std::array<std::pair<const char16_t*, std::int16_t>, 4> settingsEntries = {
@@ -132,7 +133,8 @@ void MDIKorvin::baueStatusLeiste() {
 }
 
 void MDIKorvin::sperreFehlendeArten() {
-  for (const char16_t* entry : entriesToCome) menu_->setEnabled(name(entry), false);
+  for (const auto& [key, entry] : furtherWindows)
+    menu_->setEnabled(name(entry), weitereFenster.contains(utf8Text(name(key))));
   for (const auto& [entry, messart] : settingsEntries)
     menu_->setEnabled(name(entry), grundeinstellungen.contains(messart));
   for (const KeySpec& spec : keySpecs) {
@@ -213,6 +215,9 @@ void MDIKorvin::taste(const QString& key) {
   for (const KeySpec& spec : keySpecs) {
     if (key == name(spec.key) && spec.messart != noKind) starten(spec.messart);
   }
+  for (const auto& [further, entry] : furtherWindows) {
+    if (key == name(further)) weiteresStarten(utf8Text(key));
+  }
 }
 
 void MDIKorvin::M_SprachArt(int index) {
@@ -232,6 +237,15 @@ void MDIKorvin::M_Info() {
 void MDIKorvin::starten(std::int16_t messart) {
   showHourglass();
   u_.verteilung.starten(messart);
+  showNormalPointer();
+}
+
+void MDIKorvin::weiteresStarten(const std::string& key) {
+  const auto found = weitereFenster.find(key);
+  if (found == weitereFenster.end()) return;
+  u_.system.Messart = MessartGeradheit;
+  showHourglass();
+  found->second();
   showNormalPointer();
 }
 

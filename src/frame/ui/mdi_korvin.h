@@ -61,6 +61,9 @@ class MDIKorvin : public QMainWindow {
   /// The dialogs of the default settings by their measuring kinds, to be given before `laden`. The menu entry
   /// of a kind that has none here comes later.
   std::map<std::int16_t, std::function<void()>> grundeinstellungen;
+  /// Windows beside those of the measuring kinds, by their key of the tool bar, to be given before `laden`.
+  /// They start as a straightness measurement. The entries of a window that is missing here come later.
+  std::map<std::string, std::function<void()>> weitereFenster;
   /// Runs once, when the window has come up for the first time. False ends the program.
   std::function<bool()> beiErsterAktivierung;
   /// Tells the state of the link for the status row.
@@ -86,6 +89,7 @@ class MDIKorvin : public QMainWindow {
   void M_MassArt(int index);
   void M_Info();
   void starten(std::int16_t messart);
+  void weiteresStarten(const std::string& key);
   void einrichten(std::int16_t messart);
   void oeffnen(const std::string& filter);
   void statusBeschriften();
