@@ -152,6 +152,14 @@ TEST_F(MehrPunktPicture, FittedCircleWithItsCentreAndRadius) {
   EXPECT_NEAR(picture.ursprung.x, 1, exact);
 }
 
+TEST_F(MehrPunktPicture, CircleOfAShortArcIsSeenWhole) {
+  taken({{1.5, 0}, {1 + 0.5 * std::sqrt(0.5), 0.5 * std::sqrt(0.5)}, {1, 0.5}}, 3).auswerten();
+  draw();
+  EXPECT_NEAR(picture.ursprung.x, 1, 1e-4) << "round its centre, not round the positions";
+  EXPECT_NEAR(picture.ursprung.y, 0, 1e-4);
+  EXPECT_GT(picture.bereich, picture.radius);
+}
+
 TEST_F(MehrPunktPicture, PlainMeansHaveACrossAndNoCircle) {
   taken({{0.1, 0.1}, {0.1, 0.1}, {0.1, 0.1}}, 3).auswerten();
   draw();

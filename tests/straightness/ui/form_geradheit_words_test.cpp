@@ -1,6 +1,7 @@
 // The window in all eight languages at 1024 by 768: every word is there, and none is cut off.
 
 #include <QHeaderView>
+#include <QPushButton>
 
 #include "gerad_stand.h"
 #include "support/window_words.h"
@@ -44,6 +45,35 @@ TEST_P(LineWords, NothingIsCutOff) {
     expectLabelsFit(*form);
     expectNothingCovered(*form);
   }
+}
+
+TEST_P(LineWords, NothingIsCutOffInTheFrameOfMultiPointMeasuring) {
+  show();
+  click("XYMPKMP");
+  settle();
+  auto& frame = *form->findChild<MultiPointFrame*>();
+  beam(-20.1234, 20.1234);
+  auto* take = form->findChild<QPushButton*>(QStringLiteral("CmdMehrPunkt(0)"));
+  for (int i = 0; i < 3; ++i) {
+    expectLabelsFit(frame);
+    EXPECT_TRUE(form->rect().contains(QRect(frame.mapTo(form.get(), QPoint()), frame.size())));
+    for (const QAbstractButton* each : frame.findChildren<QAbstractButton*>())
+      EXPECT_LE(each->sizeHint().width(), each->width()) << utf8Text(each->text());
+    if (i < 2) take->click();
+    settle();
+  }
+  world.korCom.setSensorHalbbereich(HalbbereichGross);
+  beam(-12.1234, 12.1234);
+  frame.onButton(2);
+  click("XYMPKMP");
+  world.head.behaviour = [this](char command) {
+    return test::answerFrame(
+        test::answerBody(command == 'M' ? 'm' : 'T', 'K', world.head.x, world.head.y, 80, '2'));
+  };
+  for (int i = 0; i < 3; ++i) take->click();
+  settle();
+  EXPECT_FALSE(text("LblMittelwert").empty());
+  expectLabelsFit(frame);
 }
 
 TEST_P(LineWords, NothingIsCutOffDuringAnAdaptivePoint) {
