@@ -43,15 +43,23 @@ class InEachLanguage : public Stand, public ::testing::WithParamInterface<int> {
   SqliteDictionary texts{this->world.system.SpracheSpalte, programEnd};
 };
 
+/// What the text of a label takes; one that wraps takes lines within the label's width.
+inline QSize roomOfText(const QLabel& label) {
+  const QFontMetrics metrics(label.font());
+  if (!label.wordWrap()) return {metrics.horizontalAdvance(label.text()), metrics.height()};
+  const QRect lines(0, 0, label.contentsRect().width(), 10000);
+  return metrics.boundingRect(lines, Qt::TextWordWrap, label.text()).size();
+}
+
 /// Every label that is shown has room for its text, and stands within the window.
 inline void expectLabelsFit(const QWidget& window) {
   for (const QLabel* each : window.findChildren<QLabel*>()) {
     if (!each->isVisibleTo(&window) || each->text().isEmpty()) continue;
     if (each->objectName().startsWith(QStringLiteral("lblMSCommInput"))) continue;  // cut on purpose
-    const QFontMetrics metrics(each->font());
-    EXPECT_LE(metrics.horizontalAdvance(each->text()), each->contentsRect().width())
-        << utf8Text(each->objectName()) << ": " << utf8Text(each->text());
-    EXPECT_LE(metrics.height(), each->contentsRect().height() + 1) << utf8Text(each->text());
+    const QSize room = each->contentsRect().size();
+    const QSize needed = roomOfText(*each);
+    EXPECT_LE(needed.width(), room.width()) << utf8Text(each->objectName()) << ": " << utf8Text(each->text());
+    EXPECT_LE(needed.height(), room.height() + 1) << utf8Text(each->text());
     const QRect place(each->mapTo(&window, QPoint(0, 0)), each->size());
     EXPECT_TRUE(window.rect().contains(place)) << utf8Text(each->text());
   }

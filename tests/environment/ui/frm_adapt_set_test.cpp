@@ -14,11 +14,9 @@
 #include <vector>
 
 #include "frame/posix_file_system.h"
-#include "frame/sprache.h"
-#include "frame/sqlite_dictionary.h"
 #include "frame/ui/qt_text.h"
-#include "frame/ui/theme.h"
 #include "support/test_ports.h"
+#include "support/window_words.h"
 
 namespace korvin {
 namespace {
@@ -410,14 +408,7 @@ TEST_P(FrmAdaptSetWords, NothingIsCutOff) {
     frame->zeigen();
     finish(155, s, s);
     EXPECT_EQ(window.size(), Beside);
-    for (const QLabel* each : frame->findChildren<QLabel*>()) {
-      const QRect needed =
-          QFontMetrics(each->font())
-              .boundingRect(QRect(0, 0, each->width(), 1000), Qt::TextWordWrap, each->text());
-      EXPECT_LE(needed.width(), each->width()) << utf8Text(each->text());
-      EXPECT_LE(needed.height(), each->height()) << utf8Text(each->text());
-      EXPECT_TRUE(frame->rect().contains(QRect(each->mapTo(frame, QPoint(0, 0)), each->size())));
-    }
+    test::expectLabelsFit(window);
     const int caption = QFontMetrics(save().font()).horizontalAdvance(save().text());
     EXPECT_LE(caption + 40, save().width());
     EXPECT_GE(picture().height(), 80);
