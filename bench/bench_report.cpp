@@ -4,8 +4,6 @@
 #include <malloc.h>
 
 #include <QGuiApplication>
-#include <QPainter>
-#include <QPdfWriter>
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -13,10 +11,10 @@
 #include <string>
 #include <vector>
 
+#include "bare_pdf.h"
 #include "frame/clock.h"
 #include "frame/sprache.h"
 #include "frame/sqlite_dictionary.h"
-#include "frame/ui/qt_text.h"
 #include "position/formpos.h"
 #include "reports/positions_bericht.h"
 #include "reports/seiten_zahl.h"
@@ -26,8 +24,6 @@ namespace korvin {
 namespace {
 
 constexpr int rounds = 7;
-constexpr int resolution = 1200;
-constexpr double pixelsPerMm = resolution / 25.4;
 
 class EndOfBench : public ProgramEnd {
  public:
@@ -46,75 +42,6 @@ void measure(FORMPOS& formpos, int points) {
     formpos.arbeit().Y.Aktuell = (i * 104729 % 20011 - 10000) * 0.0001;
     formpos.punktHinzufuegen(45000 + i / 8640.0);
   }
-}
-
-// ---- The bare writer ----
-
-struct BareText {
-  QPointF place;
-  QString text;
-  int font = 0;
-};
-struct BarePage {
-  std::vector<BareText> texts;
-  std::vector<QLineF> rules;
-};
-struct BareReport {
-  std::vector<QFont> fonts;
-  std::vector<BarePage> pages;
-};
-
-int fontIn(BareReport& report, const PageFont& asked) {
-  QFont font(QStringLiteral("Liberation Sans"));
-  font.setPointSizeF(asked.points);
-  font.setBold(asked.bold);
-  const auto found = std::find(report.fonts.begin(), report.fonts.end(), font);
-  if (found != report.fonts.end()) return static_cast<int>(found - report.fonts.begin());
-  report.fonts.push_back(font);
-  return static_cast<int>(report.fonts.size()) - 1;
-}
-
-BareReport bareReport(const Bericht& bericht) {
-  TextShaper shaper(0);
-  BareReport report;
-  for (const PageMarks& page : composedPages(bericht, shaper, {})) {
-    BarePage bare;
-    for (const PageMark& mark : page.marks) {
-      const QPointF from(mark.x1 * pixelsPerMm, mark.y1 * pixelsPerMm);
-      if (mark.kind == PageMark::Kind::text) {
-        const PageFont& font = page.fonts[mark.font];
-        bare.texts.push_back({from + QPointF(0, shaper.ascent(font) * pixelsPerMm), qText(page.text(mark)),
-                              fontIn(report, font)});
-      } else {
-        bare.rules.emplace_back(from, QPointF(mark.x2 * pixelsPerMm, mark.y2 * pixelsPerMm));
-      }
-    }
-    report.pages.push_back(std::move(bare));
-  }
-  return report;
-}
-
-std::size_t writeBare(const BareReport& report, bool withRules) {
-  ByteBlocks bytes;
-  QPdfWriter writer(&bytes);
-  writer.setResolution(resolution);
-  writer.setPageMargins(QMarginsF(0, 0, 0, 0));
-  QPainter painter(&writer);
-  bool first = true;
-  for (const BarePage& page : report.pages) {
-    if (!std::exchange(first, false)) writer.newPage();
-    int font = -1;
-    for (const BareText& text : page.texts) {
-      if (std::exchange(font, text.font) != text.font) {
-        painter.setFont(report.fonts[static_cast<std::size_t>(text.font)]);
-      }
-      painter.drawText(text.place, text.text);
-    }
-    if (!withRules) continue;
-    for (const QLineF& rule : page.rules) painter.drawLine(rule);
-  }
-  painter.end();
-  return bytes.byteCount();
 }
 
 // ---- Measuring ----

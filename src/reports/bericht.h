@@ -8,7 +8,8 @@
 /// To add a report: a class like `PRNO` (prno.h) takes a snapshot of the record and makes of it, as data, an
 /// information block (info_block.h), blocks of statistics (statistik_block.h) and a `Tabelle` (tabelle.h)
 /// with its columns, row limits and page starts. Its `drucken` begins and ends each page with a
-/// `Seitenrahmen` (seitenrahmen.h); diagrams draw on a `PageSurface`. A function like `positionsBericht`
+/// `Seitenrahmen` (seitenrahmen.h); diagrams draw on a `PageSurface`. A report of points along a line fills a
+/// `LinienBericht` (linien_bericht.h) instead, as `PRNG` (prng.h) does. A function like `positionsBericht`
 /// makes a `Bericht` of it, for window and command line alike.
 namespace korvin {
 

@@ -182,21 +182,30 @@ INSTANTIATE_TEST_SUITE_P(
                                      "CheckzAquidistant", "Settings Straightness measurement"}),
     [](const auto& kind) { return std::string(kind.param.dialog); });
 
-TEST_F(StationTest, TheMeasuringWindowOpensThePrintDialog) {
+/// A measuring kind with its print dialog.
+struct PrintOfKind {
+  const char* entry;   ///< of the main window's menu, opens the measuring window
+  const char* window;  ///< the measuring window
+  const char* dialog;  ///< the print dialog
+};
+
+class StationPrint : public StationTest, public ::testing::WithParamInterface<PrintOfKind> {};
+
+TEST_P(StationPrint, TheMeasuringWindowOpensThePrintDialog) {
   ASSERT_TRUE(start());
   bool shown = false;
   QTimer user;
   QTimer reader;  // the timer that opened a dialog is not called while it is open
   reader.callOnTimeout([&] {
     QWidget* top = QApplication::activeModalWidget();
-    if (top == nullptr || top->objectName() != QLatin1String("FormDruckInfoO")) return;
+    if (top == nullptr || top->objectName() != QLatin1String(GetParam().dialog)) return;
     shown = true;
     top->findChild<QPushButton*>(QStringLiteral("CommandDruckAbbrechen(1)"))->click();
   });
   reader.start(5);
   user.callOnTimeout([&] {
     QWidget* top = QApplication::activeModalWidget();
-    if (top == nullptr || top->objectName() != QLatin1String("FormPosition")) return;
+    if (top == nullptr || top->objectName() != QLatin1String(GetParam().window)) return;
     if (!shown) {
       top->findChild<QAction*>(QStringLiteral("M_ProtokollDrucken"))->trigger();
     } else {
@@ -204,9 +213,14 @@ TEST_F(StationTest, TheMeasuringWindowOpensThePrintDialog) {
     }
   });
   user.start(5);
-  station->window().findChild<QAction*>(QStringLiteral("M_Position"))->trigger();
+  station->window().findChild<QAction*>(QLatin1String(GetParam().entry))->trigger();
   EXPECT_TRUE(shown);
 }
+
+INSTANTIATE_TEST_SUITE_P(Kinds, StationPrint,
+                         ::testing::Values(PrintOfKind{"M_Position", "FormPosition", "FormDruckInfoO"},
+                                           PrintOfKind{"M_Geradheit", "FormGeradheit", "FormDruckInfoG"}),
+                         [](const auto& kind) { return std::string(kind.param.dialog); });
 
 }  // namespace
 }  // namespace korvin

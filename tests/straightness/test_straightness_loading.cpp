@@ -97,6 +97,18 @@ TEST_F(StraightnessLoadingTest, ALoadedFileIsUnchangedWhateverItSays) {
   EXPECT_FALSE(series().Info.Geaendert);
 }
 
+TEST_F(StraightnessLoadingTest, TheChosenPathIsKeptWhateverTheRecordTells) {
+  EXPECT_EQ(formgera.dateiGewaehlt(), "");
+  ASSERT_TRUE(loadReference("six.G"));
+  EXPECT_NE(image().Info.DateiName.trimmed(), folder.path("six.G"));
+  EXPECT_EQ(formgera.dateiGewaehlt(), folder.path("six.G"));
+  EXPECT_FALSE(load(folder.path("missing.G")));
+  EXPECT_FALSE(save(folder.path("missing/other.G")));
+  EXPECT_EQ(formgera.dateiGewaehlt(), folder.path("six.G")) << "what failed leaves it";
+  ASSERT_TRUE(save(folder.path("other.G")));
+  EXPECT_EQ(formgera.dateiGewaehlt(), folder.path("other.G"));
+}
+
 TEST_F(StraightnessLoadingTest, BlanksBehindTheNameAreCut) {
   EXPECT_TRUE(load(folder.copyOf("reference/six.G") + "   "));
 }

@@ -163,6 +163,17 @@ TEST_F(Data, LoadedFileIsNeverSavedOverWithoutAsking) {
   EXPECT_EQ(info().DateiStatus, 1);
 }
 
+TEST_F(Data, KeyMenuAndShortcutPrintTheReport) {
+  std::vector<QWidget*> over;
+  printed = [&over](QWidget* window) { over.push_back(window); };
+  show();
+  EXPECT_TRUE(enabled("DRUCKEN"));
+  click("DRUCKEN");
+  entry("M_ProtokollDrucken")->trigger();
+  type(Qt::Key_P, Qt::ControlModifier);
+  EXPECT_EQ(over, std::vector<QWidget*>(3, form.get()));
+}
+
 TEST_F(Data, OpeningDuringATransactionWaitsForItsEnd) {
   show();
   run(1);

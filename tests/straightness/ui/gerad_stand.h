@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QTest>
 #include <QToolButton>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -34,7 +35,8 @@ class GeradStand : public ::testing::Test {
             world.profil, world.meldung, world.korCom, world.answer,   world.system};
   }
   FensterDienste services() {
-    return {fileDialog, fileSystem, [this] { ++helpOpened; }, settingsHook()};
+    return {fileDialog, fileSystem, [this] { ++helpOpened; }, settingsHook(),
+            [this](QWidget* over) { printed(over); }};
   }
   EinrichtenDialog settingsHook() {
     return [this](QWidget& window, const auto& outsideOfTicks) {
@@ -133,6 +135,7 @@ class GeradStand : public ::testing::Test {
   std::unique_ptr<GeradErfassung> erfassung_;
   std::unique_ptr<FormGeradheit> form;
   int helpOpened = 0;
+  std::function<void(QWidget* over)> printed = [](QWidget*) {};
   EinrichtenDialog settings;  ///< stands in for the settings dialog
 };
 
