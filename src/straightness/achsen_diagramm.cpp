@@ -101,11 +101,27 @@ void linienZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen,
   }
 }
 
-/// The short texts of the lines on one side, moved clear of each other and of the circles of the marks.
+/// Radius of the discs on values, smaller where many points stand close.
+double punktRadius(DrawingSurface& surface, const AchsenRahmen& rahmen) {
+  const double linie = surface.lineWidth().width;
+  const double abstand = rahmen.Distanz / std::max<double>(rahmen.AnzMPs, 1);
+  return std::clamp(abstand / 3, KleinsterPunkt * linie, GroessterPunkt * linie);
+}
+
+/// How far marks and discs on the first and last point reach beyond these.
+double ueberstand(DrawingSurface& surface, const AchsenRahmen& rahmen, const AchsenInhalt& inhalt) {
+  const bool punkte =
+      std::ranges::any_of(inhalt.kurven, [](const AchsenKurve& kurve) { return kurve.punkte; });
+  return std::max(inhalt.marken.empty() ? 0 : markenRadius(rahmen),
+                  punkte ? punktRadius(surface, rahmen) : 0);
+}
+
+/// The short texts of the lines on one side, moved clear of each other, of the circles of the marks and of
+/// the discs.
 void linienTexteZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen, const AchsenInhalt& inhalt,
                          AchsenZusatzlinie::Seite seite) {
   const bool rechts = seite == AchsenZusatzlinie::Seite::rechts;
-  const double abstand = 2 * surface.lineWidth().width + (inhalt.marken.empty() ? 0 : markenRadius(rahmen));
+  const double abstand = 2 * surface.lineWidth().width + ueberstand(surface, rahmen, inhalt);
   const double z = (rechts ? letztesZ(rahmen) : erstesZ(rahmen)) + abstand;
   std::vector<AchsenText> texte;
   std::vector<double> mitten;
@@ -126,12 +142,9 @@ bool gleicheArt(const KurvenStueck& a, const KurvenStueck& b) {
   return a.ueberbrueckt == b.ueberbrueckt && a.ausserhalb == b.ausserhalb;
 }
 
-/// Discs on the values, smaller where many points stand close.
 void punkteZeichnen(DrawingSurface& surface, const AchsenRahmen& rahmen, const AchsenKurve& kurve) {
   const auto n = kurve.werte.werte.empty() ? 0 : static_cast<std::size_t>(kurve.werte.werte[0]);
-  const double linie = surface.lineWidth().width;
-  const double abstand = rahmen.Distanz / std::max<double>(static_cast<double>(n), 1);
-  const double radius = std::clamp(abstand / 3, KleinsterPunkt * linie, GroessterPunkt * linie);
+  const double radius = punktRadius(surface, rahmen);
   for (std::size_t i = 1; i <= n; ++i) {
     const double wert = kurve.werte.werte[i];
     if (!istLeer(wert) && std::fabs(wert) <= rahmen.R)

@@ -162,7 +162,7 @@ TEST_F(GeradDiagramm, EveryTextOfTheReferenceAtItsPlace) {
                                  std::pair{-20, "- 20.0"}, std::pair{-40, "- 40.0"}})
     expected.push_back({20.2, places.y(um * 0.001) - textHeight / 2, text, 8});
   expected.push_back({20.2, topX, "[um]", 8});
-  const double beside = places.x(2500) + 0.2;
+  const double beside = places.x(2500) + 0.6 + 0.2;  // off the disc on the last point
   expected.push_back({beside, places.y(0) - textHeight / 2, "x", 8});
   expected.push_back({beside, places.y(0.0228933333333) - textHeight / 2, "R", 8});
   expected.push_back({beside, places.y(-0.0255666666667) - textHeight / 2, "R", 8});
