@@ -119,5 +119,81 @@ TEST_F(CycleHookTest, PositionRaisesRtsAfterAReadingAlone) {
   EXPECT_FALSE(world.head.RTSEnable());
 }
 
+// ---- The end of a run ----
+
+TEST_F(CycleHookTest, TaskEvaluatesARunOnceItIsOver) {
+  start();
+  request('J');
+  EXPECT_TRUE(task.evaluations.empty());
+  EXPECT_GT(task.stepsDone, 2);
+  EXPECT_EQ(static_cast<std::size_t>(task.stepsDone), task.readings.size());
+  task.onEvaluation = [this](LaufEnde) {
+    EXPECT_FALSE(cycle->laeuft());
+    EXPECT_TRUE(cycle->tmrPolling().enabled());
+    EXPECT_FALSE(view.keyPressed["XYMPN"]);
+  };
+  request('J');
+  EXPECT_EQ(task.evaluations, std::vector{LaufEnde::regulaer});
+}
+
+TEST_F(CycleHookTest, TaskIsToldThatALostLinkEndedTheRun) {
+  start();
+  request('J');
+  world.head.behaviour = [](char) { return std::string(); };
+  world.clock.advance(10);
+  EXPECT_EQ(task.evaluations, std::vector{LaufEnde::verbindung});
+}
+
+TEST_F(CycleHookTest, FailedEvaluationEndsLikeALostLink) {
+  start();
+  request('J');
+  task.onEvaluation = [](LaufEnde ende) {
+    if (ende == LaufEnde::regulaer) throw std::out_of_range("too many");
+  };
+  task.pointsLeft = 1;
+  view.icons.clear();
+  world.clock.advance(3);
+  EXPECT_EQ(task.evaluations, (std::vector{LaufEnde::regulaer, LaufEnde::verbindung}));
+  EXPECT_TRUE(view.raised(IconFunk));
+  EXPECT_TRUE(cycle->tmrPolling().enabled());
+  world.head.behaviour = [](char) { return std::string(); };
+  world.clock.advance(5);
+  EXPECT_EQ(task.evaluations.size(), 2U) << "a later loss at rest is no end of a run";
+}
+
+TEST_F(CycleHookTest, UnexpectedAnswersAreTold) {
+  start();
+  request('J');
+  world.head.nextAnswer(answerFrame(answerBody('L')));
+  world.clock.advance(0.1);
+  EXPECT_EQ(task.surprises, 1);
+  world.head.nextAnswer(answerFrame(answerBody('T')));
+  world.clock.advance(0.1);
+  EXPECT_EQ(task.surprises, 1);
+}
+
+TEST_F(CycleHookTest, RunMayHaveALimitOfItsOwnTheHourglassAndNoEndByKeys) {
+  task.description.laufGrenze = 0.7;
+  task.description.sanduhrImLauf = true;
+  task.description.tastenBeendenLauf = false;
+  start();
+  request('J');
+  EXPECT_TRUE(view.hourglass);
+  request('J');
+  world.head.key = 'J';
+  world.clock.advance(0.2);
+  EXPECT_TRUE(cycle->laeuft());
+  std::vector<double> sent;
+  world.head.behaviour = [&](char) {
+    sent.push_back(world.clock.elapsed());
+    return std::string();
+  };
+  world.clock.advance(2.5);
+  EXPECT_FALSE(view.hourglass);
+  // The attempt between the two has a check character that this head does not know.
+  ASSERT_GE(sent.size(), 2U);
+  EXPECT_NEAR(sent[1] - sent[0], 2 * 0.7, 0.05);
+}
+
 }  // namespace
 }  // namespace korvin

@@ -106,6 +106,12 @@ class RecordingTask : public Messaufgabe {
   LaufSchritt laufSchritt() override { return step ? step() : LaufSchritt{}; }
   bool laufFertig() const override { return pointsLeft == 0; }
   void laufBeendet() override { ++runsEnded; }
+  void unerwarteteAntwort() override { ++surprises; }
+  void schrittGetan() override { ++stepsDone; }
+  void nachLauf(LaufEnde ende) override {
+    evaluations.push_back(ende);
+    if (onEvaluation) onEvaluation(ende);
+  }
   void wertUebernehmen(const KameraAntwort& answer) override {
     if (onReading) onReading();
     readings.push_back(answer);
@@ -129,6 +135,10 @@ class RecordingTask : public Messaufgabe {
   int pointsLeft = -1;
   int runsBegun = 0;
   int runsEnded = 0;
+  int surprises = 0;  ///< answers in a run that it does not go by
+  int stepsDone = 0;
+  std::vector<LaufEnde> evaluations;
+  std::function<void(LaufEnde)> onEvaluation;
   std::vector<KameraAntwort> readings;
   std::function<LaufSchritt()> step;
   std::function<void()> onReading;

@@ -128,6 +128,26 @@ TEST_F(MDIKorvinTest, TheKeysBearTheirNumbersWords) {
   }
 }
 
+TEST_F(MDIKorvinTest, AWindowWithoutAKindStartsFromTileKeyAndMenuAsAStraightnessMeasurement) {
+  create();
+  int started = 0;
+  system.Messart = MessartPosition;
+  window->weitereFenster["UmgebungsAnalyse"] = [&] {
+    ++started;
+    EXPECT_EQ(system.Messart, MessartGeradheit);
+    EXPECT_TRUE(hourglassShown());
+  };
+  ASSERT_EQ(loadWindow(), Startergebnis::weiter);
+  bringUp();
+  EXPECT_EQ(tile("UmgebungsAnalyse")->toolTip(), QString());
+  QTest::mouseClick(tile("UmgebungsAnalyse"), Qt::LeftButton);
+  clickKey("UmgebungsAnalyse");
+  action(QStringLiteral("M_UmgebungsAnalyse"))->trigger();
+  EXPECT_EQ(started, 3);
+  EXPECT_FALSE(hourglassShown());
+  EXPECT_FALSE(bar().isKeyEnabled(QStringLiteral("GeradheitStatistik")));
+}
+
 TEST_F(MDIKorvinTest, KindsToComeAreShownDisabledAndSayWhy) {
   show();
   for (const char* key :
