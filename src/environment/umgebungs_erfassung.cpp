@@ -87,7 +87,7 @@ LaufSchritt UmgebungsErfassung::laufSchritt() {
   return {LaufSchritt::Art::senden, 'J'};
 }
 
-void UmgebungsErfassung::schrittGetan() {
+void UmgebungsErfassung::AnalyseTakt() {
   abgebrochen_ = AnalyseAbbruch();
   zuEnde_ = abgebrochen_;
   if (abgebrochen_) return;

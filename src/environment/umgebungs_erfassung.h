@@ -14,7 +14,8 @@ namespace korvin {
 inline constexpr int AnalyseDauer = 31;
 
 /// The environment analysis: for 31 seconds it takes readings as fast as the head delivers them, into the
-/// position record; their spread tells how quiet the place is. What it keeps outlives its window.
+/// position record (`MesswertUebernehmen` is `wertUebernehmen`, as in position measuring); their spread tells
+/// how quiet the place is. What it keeps outlives its window.
 ///
 /// Empty → `laufBeginnt` → running → `nachLauf` → finished, or empty again where fewer than three points were
 /// taken. Points that were in the record before a run count towards its result. A finished analysis begins no
@@ -61,13 +62,15 @@ class UmgebungsErfassung : public PunktErfassung {
   void laufBeginnt(float sekunden) override { AnalyseStarten(sekunden); }
   LaufSchritt laufSchritt() override;
   void unerwarteteAntwort() override { AnalyseAbbruch_ = true; }
-  void schrittGetan() override;
+  void schrittGetan() override { AnalyseTakt(); }
   bool laufFertig() const override { return zuEnde_; }
   void laufBeendet() override {}
   void nachLauf(LaufEnde ende) override;
 
  private:
   void AnalyseStarten(float sekunden);
+  /// The end of a tick: a request to cancel, then the time, end the run; else it shows its progress.
+  void AnalyseTakt();
   void AnalyseBeenden();
   void AnalyseAbbrechen();
   AnalyseErgebnis analyseErgebnis() const;
