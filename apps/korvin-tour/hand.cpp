@@ -4,11 +4,13 @@
 #include <QAbstractItemModel>
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
+#include <QRadioButton>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTableView>
@@ -42,10 +44,24 @@ void requireInReach(const QWidget& control) {
   }
 }
 
+/// A box or radio button listens where it has its mark and its words, however wide it lies.
+QPoint placeToClick(const QWidget& control) {
+  const bool marked = qobject_cast<const QCheckBox*>(&control) != nullptr ||
+                      qobject_cast<const QRadioButton*>(&control) != nullptr;
+  return marked ? QPoint(control.height() / 2, control.height() / 2) : control.rect().center();
+}
+
 void postClick(QWidget& control) {
   requireInReach(control);
   Gui::post([target = QPointer<QWidget>(&control)] {
-    if (target) QTest::mouseClick(target, Qt::LeftButton);
+    if (target) QTest::mouseClick(target, Qt::LeftButton, {}, placeToClick(*target));
+  });
+}
+
+void postKey(QWidget& target, Qt::Key key) {
+  requireInReach(target);
+  Gui::post([its = QPointer<QWidget>(&target), key] {
+    if (its) QTest::keyClick(its, key);
   });
 }
 
@@ -84,6 +100,13 @@ QString rowText(const QAbstractItemModel& model, int row) {
   return cells.join(QLatin1Char('\t'));
 }
 
+QWidget* shownControl(const QString& window, const QString& control) {
+  for (QWidget* found : windowOf(window).findChildren<QWidget*>(control)) {
+    if (found->isVisible()) return found;
+  }
+  return nullptr;
+}
+
 }  // namespace
 
 QWidget* findWindow(const QString& name) {
@@ -93,10 +116,12 @@ QWidget* findWindow(const QString& name) {
   return nullptr;
 }
 
+bool isShown(const QString& window, const QString& control) {
+  return shownControl(window, control) != nullptr;
+}
+
 QWidget& findControl(const QString& window, const QString& control) {
-  for (QWidget* found : windowOf(window).findChildren<QWidget*>(control)) {
-    if (found->isVisible()) return *found;
-  }
+  if (QWidget* found = shownControl(window, control)) return *found;
   fail(QStringLiteral("the window \"%1\" shows no \"%2\"").arg(window, control));
 }
 
@@ -130,13 +155,11 @@ void Hand::turnTo(const QString& dialog, const QString& tabs, int page) {
 }
 
 void Hand::press(const QString& window, Qt::Key key) {
-  gui_.ask([=] {
-    QWidget& target = windowOf(window);
-    requireInReach(target);
-    Gui::post([its = QPointer<QWidget>(&target), key] {
-      if (its) QTest::keyClick(its, key);
-    });
-  });
+  gui_.ask([=] { postKey(windowOf(window), key); });
+}
+
+void Hand::press(const QString& window, const QString& control, Qt::Key key) {
+  gui_.ask([=] { postKey(findControl(window, control), key); });
 }
 
 void Hand::type(const QString& window, const QString& entry, const QString& text) {
@@ -191,6 +214,25 @@ QString Hand::label(const QString& window, const QString& label) {
 void Hand::waitForLabel(const QString& window, const QString& label, const QString& part, double seconds) {
   Gui::until("\"" + part.toStdString() + "\" in the label \"" + label.toStdString() + "\"", seconds,
              [=] { return labelText(window, label).contains(part); });
+}
+
+QString Hand::entry(const QString& window, const QString& entry) {
+  return gui_.ask([=] {
+    const auto* line = qobject_cast<QLineEdit*>(&findControl(window, entry));
+    if (line == nullptr) fail(QStringLiteral("\"%1\" takes no text").arg(entry));
+    return line->text().trimmed();
+  });
+}
+
+void Hand::waitForControl(const QString& window, const QString& control, bool shown, double seconds) {
+  const std::string name = "\"" + control.toStdString() + "\"";
+  Gui::until(name + (shown ? " in sight" : " out of sight"), seconds,
+             [=] { return isShown(window, control) == shown; });
+}
+
+void Hand::waitForEnabled(const QString& window, const QString& control, double seconds) {
+  Gui::until("\"" + control.toStdString() + "\" enabled", seconds,
+             [=] { return findControl(window, control).isEnabled(); });
 }
 
 bool Hand::isSet(const QString& window, const QString& control) {

@@ -31,6 +31,8 @@ class Hand {
   void turnTo(const QString& dialog, const QString& tabs, int page);
   /// Presses a key in the window, where its focus is.
   void press(const QString& window, Qt::Key key);
+  /// Presses a key in a control.
+  void press(const QString& window, const QString& control, Qt::Key key);
   /// Replaces what stands in an entry by `text`, key by key.
   void type(const QString& window, const QString& entry, const QString& text);
   /// Saves a picture of the window as `name`.png.
@@ -46,6 +48,12 @@ class Hand {
   /// Text of a label, trimmed.
   QString label(const QString& window, const QString& label);
   void waitForLabel(const QString& window, const QString& label, const QString& part, double seconds = 15);
+  /// What stands in an entry.
+  QString entry(const QString& window, const QString& entry);
+  /// Waits until the control is in sight, or no longer is.
+  void waitForControl(const QString& window, const QString& control, bool shown = true, double seconds = 15);
+  /// Waits until the control can be used.
+  void waitForEnabled(const QString& window, const QString& control, double seconds = 30);
   /// Whether a check box or key is set.
   bool isSet(const QString& window, const QString& control);
   bool isChecked(const QString& window, const QString& entry);
@@ -65,6 +73,8 @@ class Hand {
 
 /// The visible window of that object name, or null. In the windows' thread only.
 QWidget* findWindow(const QString& name);
+/// Whether the window shows a control of that name. In the windows' thread only.
+bool isShown(const QString& window, const QString& control);
 /// The visible control of that name in the window. Throws `StepFailed` if there is none.
 QWidget& findControl(const QString& window, const QString& control);
 

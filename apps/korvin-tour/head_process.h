@@ -16,7 +16,7 @@ class HeadProcess {
   HeadProcess(const HeadProcess&) = delete;
   HeadProcess& operator=(const HeadProcess&) = delete;
 
-  /// Presses a key of the head: 'm', 'j', 'l' or 'r'. From any thread.
+  /// Presses a key of the head: 'm', 'j', 'l' or 'r'; 'n' carries it on to its next place. From any thread.
   void press(char key) const;
   /// What it said when it was ready.
   std::string ready() const { return ready_; }

@@ -17,16 +17,19 @@
 #include "korvin/application.h"
 #include "korvin/station.h"
 #include "platform.h"
+#include "spindle.h"
 #include "walk.h"
 
 namespace korvin::tour {
 namespace {
 
-constexpr int timeLimit = 240;             ///< seconds for the whole walk
+constexpr int timeLimit = 600;             ///< seconds for the whole walk
 constexpr qsizetype longestFileName = 75;  ///< bytes for a path in a measuring file
 const QString fileName = QStringLiteral("walk.O");
 const QString lineName = QStringLiteral("walk.G");
+const QString adaptiveName = QStringLiteral("adaptive.G");
 const QString reportName = QStringLiteral("walk.pdf");
+const QString lineReportName = QStringLiteral("adaptive.pdf");
 
 /// Folders of the walk's own: never the user's settings, never their files.
 class Places {
@@ -49,8 +52,15 @@ class Places {
   }
 
   QString file() const { return measuringFile(fileName); }
-  QString line() const { return measuringFile(lineName); }
-  QString report() const { return QDir(out_).filePath(reportName); }
+  WalkPlaces forWalk() const {
+    return {out_,
+            file(),
+            QDir(out_).filePath(reportName),
+            measuringFile(lineName),
+            measuringFile(adaptiveName),
+            QDir(out_).filePath(lineReportName),
+            Folders(chooseFolders(environment())).settingsFile()};
+  }
   void bringFiles() const {
     if (QFileInfo(file()).absolutePath() == out_) return;
     for (const QString& name : measuringFiles()) QFile::copy(own_.filePath(name), QDir(out_).filePath(name));
@@ -58,10 +68,15 @@ class Places {
   void remove() { own_.remove(); }
 
  private:
-  /// All that belongs to the two measurements.
+  /// All that belongs to the measurements.
   static QStringList measuringFiles() {
-    return {fileName, fileName + QLatin1Char('1'), fileName + QLatin1Char('$'), lineName,
-            lineName + QLatin1Char('$')};
+    return {fileName,
+            fileName + QLatin1Char('1'),
+            fileName + QLatin1Char('$'),
+            lineName,
+            lineName + QLatin1Char('$'),
+            adaptiveName,
+            adaptiveName + QLatin1Char('$')};
   }
 
   /// In `out`, unless its path does not fit a measuring file; then `bringFiles` copies it there.
@@ -72,8 +87,9 @@ class Places {
 
   /// What an earlier walk left and this one would meet. Pictures are written over.
   void removeOldFiles() const {
-    const QStringList left = measuringFiles() + QStringList{reportName, QStringLiteral("walk.txt"),
-                                                            QStringLiteral("failed-*.png")};
+    const QStringList left =
+        measuringFiles() +
+        QStringList{reportName, lineReportName, QStringLiteral("walk.txt"), QStringLiteral("failed-*.png")};
     for (const QString& old : QDir(out_).entryList(left, QDir::Files))
       QFile::remove(QDir(out_).filePath(old));
   }
@@ -126,6 +142,9 @@ const QString standingHead = anyHead + QStringLiteral("--x 0.12 --y -0.08 --nois
 /// Is carried along the guideway, in a hurry.
 const QString carriedHead = anyHead + QStringLiteral("--time-scale 0.25 ") + Guideway::headOptions();
 
+/// Is turned on a spindle. No faster than this: an analysis takes 500 readings at the most.
+const QString turnedHead = anyHead + QStringLiteral("--time-scale 0.5 ") + Spindle::headOptions();
+
 /// The walk came to a bad end: windows may still be open, so the process ends here and now.
 [[noreturn]] void endBadly(Places& places, const HeadProcess& head) {
   head.endNow();
@@ -167,9 +186,7 @@ void walkWithHead(const QString& options, Places& places, Journal& journal, Dead
     journal.failed("The whole walk", "it took longer than " + std::to_string(timeLimit) + " s");
     endBadly(places, head);
   });
-  Walk walk({places.out(), places.file(), places.line(), places.report(),
-             Folders(chooseFolders(places.environment())).settingsFile()},
-            head, journal);
+  Walk walk(places.forWalk(), head, journal);
   for (const auto start : starts) startProgram(places, head, journal, [&] { return (walk.*start)(); });
 }
 
@@ -181,6 +198,7 @@ int walkThrough(const QString& out) {
   const Deadline deadline = std::chrono::steady_clock::now() + std::chrono::seconds(timeLimit);
   walkWithHead(standingHead, places, journal, deadline, {&Walk::firstStart, &Walk::secondStart});
   walkWithHead(carriedHead, places, journal, deadline, {&Walk::thirdStart});
+  walkWithHead(turnedHead, places, journal, deadline, {&Walk::fourthStart});
   places.bringFiles();
   journal.line("\nAll steps went well.");
   return EXIT_SUCCESS;

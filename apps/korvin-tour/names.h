@@ -8,6 +8,7 @@ namespace korvin::tour::names {
 inline const QString mainWindow = QStringLiteral("MDIKorvin");
 inline const QString position = QStringLiteral("FormPosition");
 inline const QString line = QStringLiteral("FormGeradheit");
+inline const QString environment = QStringLiteral("FormUmgebungsAnalyse");
 inline const QString searchDialog = QStringLiteral("FormScanComport");
 inline const QString message = QStringLiteral("MessageBox");
 inline const QString fileDialog = QStringLiteral("CMDialogDatei");
@@ -17,7 +18,10 @@ inline const QString lineInfo = QStringLiteral("FormDateiInfoG");
 inline const QString information = QStringLiteral("FormInfo");
 inline const QString guide = QStringLiteral("CMDialogHilfe");
 inline const QString settings = QStringLiteral("FormOptionsO");
+inline const QString lineSettings = QStringLiteral("FormOptionsG");
+inline const QString lineTabs = QStringLiteral("TabOptG");
 inline const QString printDialog = QStringLiteral("FormDruckInfoO");
+inline const QString linePrintDialog = QStringLiteral("FormDruckInfoG");
 inline const QString preview = QStringLiteral("PrintPreview");
 inline const QString ok = QStringLiteral("cmdOK");
 

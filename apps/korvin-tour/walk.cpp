@@ -64,6 +64,30 @@ bool Walk::thirdStart() {
   return take(steps);
 }
 
+bool Walk::fourthStart() {
+  static constexpr std::array<Step, 19> steps = {
+      {{"The fourth start finds the head at once", &Walk::foundAtOnce},
+       {"The language is German", &Walk::german},
+       {"The menu opens the environment analysis", &Walk::openAnalysis},
+       {"The analysis, 31 seconds", &Walk::runAnalysis},
+       {"The uncertainty that the head's noise gives", &Walk::analysisResult},
+       {"The slider chooses a shorter time", &Walk::shorterTime},
+       {"The settings of adaptive measuring are saved", &Walk::saveAnalysis},
+       {"The analysis closes", &Walk::closeAnalysis},
+       {"The tile opens the straightness window", &Walk::openAdaptiveLine},
+       {"The settings of straightness: four points, adaptive", &Walk::adaptiveOn},
+       {"Three adaptive points, the head turned after each", &Walk::adaptiveLine},
+       {"Adaptive measuring is switched off", &Walk::adaptiveOff},
+       {"Four positions on a circle", &Walk::centre},
+       {"The circle's centre is accepted", &Walk::acceptedCentre},
+       {"The line is saved", &Walk::saveAdaptiveLine},
+       {"The straightness report on the screen", &Walk::adaptivePreview},
+       {"The straightness report as PDF", &Walk::adaptiveReport},
+       {"The straightness window closes", &Walk::closeLine},
+       {"The program ends", &Walk::end}}};
+  return take(steps);
+}
+
 bool Walk::take(std::span<const Step> steps) {
   for (const Step& step : steps) {
     const auto begin = std::chrono::steady_clock::now();

@@ -15,13 +15,24 @@ namespace korvin::tour {
 /// Where things are on the walk.
 struct WalkPlaces {
   QString pictures;                    ///< folder of the pictures
-  QString file;                        ///< the measuring file that is written, with its full path
+  QString file;                        ///< the measuring file of positions, with its full path
+  QString report;                      ///< its report as PDF, likewise
   QString line;                        ///< the measuring file of the line, likewise
-  QString report;                      ///< the report as PDF, likewise
+  QString adaptiveLine;                ///< the measuring file of the line of adaptive points, likewise
+  QString lineReport;                  ///< its report as PDF, likewise
   std::filesystem::path settingsFile;  ///< the settings of the walk
 };
 
-/// A user's way through the program: three starts, each a list of steps in their order. Runs in a thread of
+/// Where a measurement is printed from, and what of it.
+struct PrintPlace {
+  QString window;
+  QString dialog;
+  QStringList boxes;  ///< that are set in the dialog
+  QString pictures;   ///< what the names of its pictures begin with
+  int fewestPages;
+};
+
+/// A user's way through the program: four starts, each a list of steps in their order. Runs in a thread of
 /// its own, beside the windows.
 ///
 /// To add a step: a member function that does it and returns what it read, and a line in a list in walk.cpp.
@@ -37,6 +48,9 @@ class Walk {
   bool secondStart();
   /// The third start, with a head that is carried along a guideway: its straightness. Ends the program.
   bool thirdStart();
+  /// The fourth start, with a head that is turned on a spindle, in German: how quiet its place is, adaptive
+  /// points, the spindle's centre, the report. Ends the program.
+  bool fourthStart();
 
  private:
   struct Step {
@@ -82,6 +96,14 @@ class Walk {
   std::string preview();
   std::string report();
 
+  // ---- walk_report.cpp ----
+  void openPrintDialog(const PrintPlace& place);
+  /// The report on the screen, with a picture of each page; returns what the preview tells of its pages.
+  std::string previewFor(const PrintPlace& place);
+  std::string pdfFor(const PrintPlace& place, const QString& file);
+  /// Pictures of the pages that the preview shows; returns their number.
+  int pagePictures(const QString& name);
+
   // ---- walk_line.cpp ----
   std::string english();
   std::string lineTolerances();
@@ -96,9 +118,44 @@ class Walk {
   std::string reopenLine();
   std::string reopenLineInOtherLanguages();
 
+  // ---- walk_environment.cpp ----
+  std::string openAnalysis();
+  std::string runAnalysis();
+  std::string analysisResult();
+  std::string shorterTime();
+  std::string saveAnalysis();
+  std::string closeAnalysis();
+  /// Reads a panel of the result; throws if it is far from what the head's noise gives.
+  double requireUncertainty(int index, double expected);
+  /// Holds a setting of all kinds that measure adaptively against a number; returns it as it is stored.
+  std::string requireHandedOver(const std::string& key, double value);
+
+  // ---- walk_adaptive.cpp ----
+  std::string german();
+  std::string openAdaptiveLine();
+  std::string adaptiveOn();
+  std::string adaptiveLine();
+  std::string adaptiveOff();
+  std::string saveAdaptiveLine();
+  std::string adaptivePreview();
+  std::string adaptiveReport();
+  void openLineSettings();
+  void takeOverLineSettings();
+  /// Holds a stored setting of straightness against what was typed; returns both its names.
+  std::string requireStored(const QString& key, const QString& text);
+  /// Takes the point of that row and turns the head to its next position.
+  void measureAdaptively(int row);
+  void pictureOfConvergence(int row);
+  /// Waits for the new day if this one has not that many seconds any more.
+  static void keepFromMidnight(int seconds);
+
+  // ---- walk_centre.cpp ----
+  std::string centre();
+  std::string acceptedCentre();
+  void takeCirclePosition(int number);
+
   /// Clicks a key or box unless it is set.
   void set(const QString& window, const QString& control);
-  void openPrintDialog();
   void chooseLanguage(int index);
   void typeFileAndAccept(const QString& file);
   void openFile();
@@ -116,6 +173,9 @@ class Walk {
   int pointCount();
   std::string lastPoint();
   std::string setting(std::string_view key);
+  std::string setting(std::string_view section, std::string_view key);
+  /// Saves the line in the straightness window, and tells the file's information.
+  std::string saveLineAs(const QString& file, const QString& name, const QString& remark);
 
   WalkPlaces places_;
   const HeadProcess& head_;

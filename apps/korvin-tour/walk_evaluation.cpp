@@ -1,5 +1,4 @@
 #include <QAbstractButton>
-#include <QFile>
 #include <QLabel>
 
 #include "names.h"
@@ -10,6 +9,16 @@ namespace {
 
 const QString rangeX = QStringLiteral("PanelXBereich");
 constexpr int settingsPages = 3;
+
+/// The diagram, and both columns of the table.
+PrintPlace positionPrint() {
+  return {names::position,
+          names::printDialog,
+          {QStringLiteral("CheckDiagramm(0)"), QStringLiteral("CheckTabelle(0)"),
+           QStringLiteral("CheckTabelle(1)")},
+          {},
+          2};
+}
 
 }  // namespace
 
@@ -66,36 +75,12 @@ std::string Walk::settings() {
   return "\"" + title + "\", left by Cancel";
 }
 
-void Walk::openPrintDialog() {
-  hand_.click(names::position, QStringLiteral("DRUCKEN"));
-  hand_.waitFor(names::printDialog);
-  for (const char* box : {"CheckDiagramm(0)", "CheckTabelle(0)", "CheckTabelle(1)"})
-    set(names::printDialog, QLatin1String(box));
-}
-
 std::string Walk::preview() {
-  openPrintDialog();
-  hand_.picture(names::printDialog, QStringLiteral("print-dialog"));
-  hand_.click(names::printDialog, QStringLiteral("CommandVorschau"));
-  hand_.waitFor(names::preview);
-  const std::string pages = hand_.label(names::preview, QStringLiteral("PreviewPage")).toStdString();
-  hand_.picture(names::preview, QStringLiteral("print-preview"));
-  hand_.press(names::preview, Qt::Key_Escape);
-  hand_.waitGone(names::preview);
-  hand_.click(names::printDialog, QStringLiteral("CommandDruckAbbrechen(1)"));
-  hand_.waitGone(names::printDialog);
-  return pages;
+  return previewFor(positionPrint());
 }
 
 std::string Walk::report() {
-  openPrintDialog();
-  hand_.click(names::printDialog, QStringLiteral("CommandPdf"));
-  typeFileAndAccept(places_.report);
-  hand_.waitGone(names::printDialog);
-  QFile pdf(places_.report);
-  if (!pdf.open(QIODevice::ReadOnly) || !pdf.read(4).startsWith("%PDF"))
-    throw StepFailed("there is no report");
-  return std::to_string(pdf.size()) + " bytes";
+  return pdfFor(positionPrint(), places_.report);
 }
 
 }  // namespace korvin::tour

@@ -116,20 +116,26 @@ std::string Walk::lineStatistics() {
   return read.join(QStringLiteral(", ")).toStdString();
 }
 
-std::string Walk::saveLine() {
+std::string Walk::saveLineAs(const QString& file, const QString& name, const QString& remark) {
   hand_.click(names::line, QStringLiteral("SPEICHERN"));
-  typeFileAndAccept(places_.line);
+  typeFileAndAccept(file);
   hand_.waitFor(names::lineInfo);
-  hand_.type(names::lineInfo, QStringLiteral("Bezeichnung"), QStringLiteral("Walk along a guideway"));
+  hand_.type(names::lineInfo, QStringLiteral("Bezeichnung"), name);
   hand_.type(names::lineInfo, QStringLiteral("Bediener"), QStringLiteral("korvin-tour"));
-  hand_.type(names::lineInfo, QStringLiteral("Kommentar"), QStringLiteral("Virtual head, six points"));
+  hand_.type(names::lineInfo, QStringLiteral("Kommentar"), remark);
   hand_.picture(names::lineInfo, QStringLiteral("line-information"));
   hand_.click(names::lineInfo, names::ok);
   hand_.waitGone(names::lineInfo);
   Gui::until("the file's name in the title", 10,
-             [file = places_.line] { return findWindow(names::line)->windowTitle().contains(file); });
-  lineRows_ = hand_.rows(names::line);
+             [file] { return findWindow(names::line)->windowTitle().contains(file); });
   return hand_.title(names::line).toStdString();
+}
+
+std::string Walk::saveLine() {
+  std::string title = saveLineAs(places_.line, QStringLiteral("Walk along a guideway"),
+                                 QStringLiteral("Virtual head, six points"));
+  lineRows_ = hand_.rows(names::line);
+  return title;
 }
 
 std::string Walk::lineFiles() {

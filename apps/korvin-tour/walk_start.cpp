@@ -58,8 +58,12 @@ std::string Walk::search() {
 }
 
 std::string Walk::setting(std::string_view key) {
+  return setting("KorInfo", key);
+}
+
+std::string Walk::setting(std::string_view section, std::string_view key) {
   SqliteSettingsTree tree(places_.settingsFile);
-  return Profil(tree).wert("KorInfo", key, "");
+  return Profil(tree).wert(section, key, "");
 }
 
 std::string Walk::storedPort() {
