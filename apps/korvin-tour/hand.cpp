@@ -16,6 +16,8 @@
 #include <QTableView>
 #include <QTest>
 #include <QToolButton>
+#include <chrono>
+#include <thread>
 
 namespace korvin::tour {
 namespace {
@@ -228,6 +230,15 @@ void Hand::waitForControl(const QString& window, const QString& control, bool sh
   const std::string name = "\"" + control.toStdString() + "\"";
   Gui::until(name + (shown ? " in sight" : " out of sight"), seconds,
              [=] { return isShown(window, control) == shown; });
+}
+
+bool Hand::comes(const QString& window, const QString& control, double seconds) {
+  const auto end = std::chrono::steady_clock::now() + std::chrono::duration<double>(seconds);
+  while (std::chrono::steady_clock::now() < end) {
+    if (gui_.ask([=] { return isShown(window, control); })) return true;
+    std::this_thread::sleep_for(std::chrono::milliseconds(15));
+  }
+  return false;
 }
 
 void Hand::waitForEnabled(const QString& window, const QString& control, double seconds) {

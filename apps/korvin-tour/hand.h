@@ -52,6 +52,8 @@ class Hand {
   QString entry(const QString& window, const QString& entry);
   /// Waits until the control is in sight, or no longer is.
   void waitForControl(const QString& window, const QString& control, bool shown = true, double seconds = 15);
+  /// Whether the control comes into sight within so many seconds.
+  bool comes(const QString& window, const QString& control, double seconds);
   /// Waits until the control can be used.
   void waitForEnabled(const QString& window, const QString& control, double seconds = 30);
   /// Whether a check box or key is set.

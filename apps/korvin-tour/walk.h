@@ -143,6 +143,7 @@ class Walk {
   void takeOverLineSettings();
   /// Holds a stored setting of straightness against what was typed; returns both its names.
   std::string requireStored(const QString& key, const QString& text);
+  void startAdaptively();
   /// Takes the point of that row and turns the head to its next position.
   void measureAdaptively(int row);
   void pictureOfConvergence(int row);

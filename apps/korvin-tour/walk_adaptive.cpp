@@ -22,6 +22,8 @@ constexpr char carryOn = 'n';        ///< of the head: on to its next position
 constexpr double acceptLimit = 120;  ///< seconds for a point that takes five
 constexpr int picturedSamples = 30;  ///< of those of a point
 constexpr int secondsOfPoint = 60;   ///< that a point may take at the most
+constexpr int presses = 8;
+constexpr double secondsOfPress = 2;
 const QString cursorLabel = QStringLiteral("PanelMessPkt");
 const QString failureDialog = QStringLiteral("FormAdaptFehlerG");
 const QString convergence = QStringLiteral("FrmKonvergenz");
@@ -39,7 +41,7 @@ constexpr std::array<Box, 2> objectBoxes = {
 constexpr std::array<Box, 4> adaptiveBoxes = {{{"TextEinstellung(16)", "0.002", "X_Genauigkeit"},
                                                {"TextEinstellung(17)", "0.002", "Y_Genauigkeit"},
                                                {"TextEinstellung(18)", "5", "MessZeitMin"},
-                                               {"TextEinstellung(19)", "30", "MessZeitMax"}}};
+                                               {"TextEinstellung(19)", "20", "MessZeitMax"}}};
 
 QString cursorAt(int point) {
   return QStringLiteral("%1 / %2").arg(std::min(point, linePoints)).arg(linePoints);
@@ -133,6 +135,8 @@ std::string Walk::adaptiveOn() {
   for (const Box& box : adaptiveBoxes)
     read += ", " + requireStored(QLatin1String(box.key), QLatin1String(box.text));
   hand_.waitForLabel(names::line, cursorLabel, cursorAt(1));
+  // As the head reads: the points are held against where it stands.
+  evaluated(QStringLiteral("ROH"));
   return read;
 }
 
@@ -157,10 +161,19 @@ void Walk::pictureOfConvergence(int row) {
   hand_.picture(names::line, QStringLiteral("line-adaptive"));
 }
 
+void Walk::startAdaptively() {
+  // The window asks the head every 0.8 s, and after a run a press of the key counts for 0.5 s only: one that
+  // is lost is pressed again, as a user does, and only then, since a second press cancels the point.
+  for (int press = 1; press <= presses; ++press) {
+    hand_.click(names::line, names::single);
+    if (hand_.comes(names::line, progress, secondsOfPress)) return;
+  }
+  throw StepFailed("no adaptive point begins");
+}
+
 void Walk::measureAdaptively(int row) {
   keepFromMidnight(secondsOfPoint);
-  hand_.click(names::line, names::single);
-  hand_.waitForControl(names::line, progress);
+  startAdaptively();
   if (row == 0) pictureOfConvergence(row);
   Gui::until("point " + std::to_string(row + 1) + " accepted", acceptLimit,
              [row] { return isAccepted(row); });
@@ -184,6 +197,7 @@ std::string Walk::adaptiveLine() {
 // ---- File and report ----
 
 std::string Walk::saveAdaptiveLine() {
+  evaluated(QStringLiteral("ISO"));
   set(names::line, QStringLiteral("STATISTIK"));
   for (const char* key : {"x", "s", "R", "t"}) set(names::line, QLatin1String(key));
   std::string title =
