@@ -215,7 +215,8 @@ int main(int argc, char** argv) {
   Application application(argc, argv);
   QCommandLineParser parser;
   parser.setApplicationDescription(QStringLiteral(
-      "Walks the real windows of KORVIN through a measurement with a virtual head, by clicks and keys.\n"
+      "Walks the real windows of KORVIN through its measurements with a virtual head, by clicks and keys:\n"
+      "positions, a straight line, an environment analysis, adaptive points, the centre of a circle.\n"
       "Leaves the measuring files, pictures of the windows and walk.txt in the folder DIR.\n"
       "Exit status: 0 if every step went well, 1 if one failed, with the reason on standard error."));
   parser.addHelpOption();

@@ -65,7 +65,7 @@ bool Walk::thirdStart() {
 }
 
 bool Walk::fourthStart() {
-  static constexpr std::array<Step, 19> steps = {
+  static constexpr std::array<Step, 20> steps = {
       {{"The fourth start finds the head at once", &Walk::foundAtOnce},
        {"The language is German", &Walk::german},
        {"The menu opens the environment analysis", &Walk::openAnalysis},
@@ -83,7 +83,8 @@ bool Walk::fourthStart() {
        {"The line is saved", &Walk::saveAdaptiveLine},
        {"The straightness report on the screen", &Walk::adaptivePreview},
        {"The straightness report as PDF", &Walk::adaptiveReport},
-       {"The straightness window closes", &Walk::closeLine},
+       {"The straightness window asks, saves and closes", &Walk::closeAdaptiveLine},
+       {"File and text copy hold what was measured", &Walk::adaptiveFiles},
        {"The program ends", &Walk::end}}};
   return take(steps);
 }

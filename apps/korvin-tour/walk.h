@@ -139,10 +139,15 @@ class Walk {
   std::string saveAdaptiveLine();
   std::string adaptivePreview();
   std::string adaptiveReport();
+  std::string closeAdaptiveLine();
+  std::string adaptiveFiles();
   void openLineSettings();
   void takeOverLineSettings();
-  /// Holds a stored setting of straightness against what was typed; returns both its names.
-  std::string requireStored(const QString& key, const QString& text);
+  /// Holds a stored setting against what was typed; returns its key and what is stored.
+  std::string requireStored(const std::string& section, const std::string& key, const QString& text);
+  /// Holds the boxes of adaptive measuring against what the analysis stored.
+  std::string requireProposed();
+  void pictureSettings();
   void startAdaptively();
   /// Takes the point of that row and turns the head to its next position.
   void measureAdaptively(int row);
@@ -184,7 +189,7 @@ class Walk {
   Hand hand_;
   QStringList savedRows_;
   QString savedOffset_;
-  QStringList lineReadings_;  ///< points of the line, not evaluated
+  QStringList lineReadings_;  ///< points of the line in work, not evaluated
   QStringList lineRows_;      ///< the same as they were shown when they were saved
 };
 

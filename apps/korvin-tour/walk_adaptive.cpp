@@ -4,8 +4,12 @@
 #include <QTime>
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <cstdlib>
+#include <span>
 
 #include "names.h"
+#include "saved_files.h"
 #include "spindle.h"
 #include "walk.h"
 
@@ -18,10 +22,11 @@ constexpr int pageInstrument = 2;
 constexpr int adaptivePoints = Spindle::positions - 1;
 constexpr int linePoints = adaptivePoints + 1;  ///< the last one is the centre of the spindle
 constexpr int valueColumn = 2;
-constexpr char carryOn = 'n';        ///< of the head: on to its next position
-constexpr double acceptLimit = 120;  ///< seconds for a point that takes five
-constexpr int picturedSamples = 30;  ///< of those of a point
-constexpr int secondsOfPoint = 60;   ///< that a point may take at the most
+constexpr char carryOn = 'n';               ///< of the head: on to its next position
+constexpr double acceptLimit = 120;         ///< seconds for a point that takes five
+constexpr int picturedSamples = 30;         ///< of those of a point
+constexpr int secondsOfPoint = 60;          ///< that a point may take at the most
+constexpr double shownTolerance = 0.00005;  ///< half of the last digit of an accuracy
 constexpr int presses = 8;
 constexpr double secondsOfPress = 2;
 const QString cursorLabel = QStringLiteral("PanelMessPkt");
@@ -31,17 +36,26 @@ const QString progress = QStringLiteral("AdaptProgress");
 const QString adaptiveBox = QStringLiteral("CheckAdaptOn");
 const QString takeOver = QStringLiteral("Commands(2)");
 
+/// An entry of the settings dialog: what is typed, and where it is stored.
 struct Box {
   const char* entry;
   const char* text;
-  const char* key;  ///< its setting
+  const char* section;
+  const char* key;
 };
-constexpr std::array<Box, 2> objectBoxes = {
-    {{"TextEinstellung(8)", "4", "AnzMPs"}, {"TextEinstellung(9)", "300", "Distanz"}}};
-constexpr std::array<Box, 4> adaptiveBoxes = {{{"TextEinstellung(16)", "0.002", "X_Genauigkeit"},
-                                               {"TextEinstellung(17)", "0.002", "Y_Genauigkeit"},
-                                               {"TextEinstellung(18)", "5", "MessZeitMin"},
-                                               {"TextEinstellung(19)", "20", "MessZeitMax"}}};
+constexpr std::array<Box, 8> objectBoxes = {{{"TextEinstellung(8)", "4", "MessInfo_G", "AnzMPs"},
+                                             {"TextEinstellung(9)", "300", "MessInfo_G", "Distanz"},
+                                             {"TextEinstellung(10)", "0.08", "Toleranz_G", "XGesamt"},
+                                             {"TextEinstellung(11)", "0.06", "Toleranz_G", "XWertPro"},
+                                             {"TextEinstellung(12)", "100", "Toleranz_G", "XProEinheit"},
+                                             {"TextEinstellung(13)", "0.08", "Toleranz_G", "YGesamt"},
+                                             {"TextEinstellung(14)", "0.06", "Toleranz_G", "YWertPro"},
+                                             {"TextEinstellung(15)", "100", "Toleranz_G", "YProEinheit"}}};
+constexpr std::array<Box, 4> adaptiveBoxes = {
+    {{"TextEinstellung(16)", "0.002", "MessInfo_G", "X_Genauigkeit"},
+     {"TextEinstellung(17)", "0.002", "MessInfo_G", "Y_Genauigkeit"},
+     {"TextEinstellung(18)", "5", "MessInfo_G", "MessZeitMin"},
+     {"TextEinstellung(19)", "20", "MessInfo_G", "MessZeitMax"}}};
 
 QString cursorAt(int point) {
   return QStringLiteral("%1 / %2").arg(std::min(point, linePoints)).arg(linePoints);
@@ -108,36 +122,55 @@ void Walk::takeOverLineSettings() {
   waitForMeasuring(names::line);
 }
 
-std::string Walk::requireStored(const QString& key, const QString& text) {
-  const std::string stored = setting("MessInfo_G", key.toStdString());
+std::string Walk::requireStored(const std::string& section, const std::string& key, const QString& text) {
+  const std::string stored = setting(section, key);
   if (QString::fromStdString(stored).toDouble() != text.toDouble())
-    throw StepFailed(key.toStdString() + " reads \"" + stored + "\"");
-  return key.toStdString() + " " + stored;
+    throw StepFailed(key + " reads \"" + stored + "\"");
+  return key + " " + stored;
 }
 
-std::string Walk::adaptiveOn() {
-  openLineSettings();
-  hand_.turnTo(names::lineSettings, names::lineTabs, pageObject);
-  for (const Box& box : objectBoxes)
-    hand_.type(names::lineSettings, QLatin1String(box.entry), QLatin1String(box.text));
+std::string Walk::requireProposed() {
   hand_.turnTo(names::lineSettings, names::lineTabs, pageInstrument);
-  set(names::lineSettings, adaptiveBox);
-  for (const Box& box : adaptiveBoxes)
-    hand_.type(names::lineSettings, QLatin1String(box.entry), QLatin1String(box.text));
+  if (!hand_.isSet(names::lineSettings, adaptiveBox)) throw StepFailed("adaptive measuring is off");
+  std::string read;
+  for (const Box& box : adaptiveBoxes) {
+    const std::string shown = hand_.entry(names::lineSettings, QLatin1String(box.entry)).toStdString();
+    if (std::abs(std::atof(shown.c_str()) - std::atof(setting(box.section, box.key).c_str())) >
+        shownTolerance)
+      throw StepFailed(std::string(box.key) + " shows \"" + shown + "\"");
+    read += (read.empty() ? "proposed were " : ", ") + std::string(box.key) + " " + shown;
+  }
+  return read;
+}
+
+void Walk::pictureSettings() {
   for (int page = 0; page < settingsPages; ++page) {
     hand_.turnTo(names::lineSettings, names::lineTabs, page);
     hand_.picture(names::lineSettings, QStringLiteral("line-settings-%1").arg(page + 1));
   }
+}
+
+std::string Walk::adaptiveOn() {
+  const auto fill = [this](int page, std::span<const Box> boxes) {
+    hand_.turnTo(names::lineSettings, names::lineTabs, page);
+    if (page == pageInstrument) set(names::lineSettings, adaptiveBox);
+    for (const Box& box : boxes)
+      hand_.type(names::lineSettings, QLatin1String(box.entry), QLatin1String(box.text));
+  };
+  openLineSettings();
+  const std::string proposed = requireProposed();
+  fill(pageObject, objectBoxes);
+  fill(pageInstrument, adaptiveBoxes);
+  pictureSettings();
   takeOverLineSettings();
-  std::string read = requireStored(QStringLiteral("AutoAdapt"), QStringLiteral("-1"));
-  for (const Box& box : objectBoxes)
-    read += ", " + requireStored(QLatin1String(box.key), QLatin1String(box.text));
-  for (const Box& box : adaptiveBoxes)
-    read += ", " + requireStored(QLatin1String(box.key), QLatin1String(box.text));
+  std::string read = requireStored("MessInfo_G", "AutoAdapt", QStringLiteral("-1"));
+  for (const std::span<const Box> boxes :
+       {std::span<const Box>(objectBoxes), std::span<const Box>(adaptiveBoxes)})
+    for (const Box& box : boxes) read += ", " + requireStored(box.section, box.key, QLatin1String(box.text));
   hand_.waitForLabel(names::line, cursorLabel, cursorAt(1));
   // As the head reads: the points are held against where it stands.
   evaluated(QStringLiteral("ROH"));
-  return read;
+  return proposed + "; now " + read;
 }
 
 std::string Walk::adaptiveOff() {
@@ -147,7 +180,7 @@ std::string Walk::adaptiveOff() {
     throw StepFailed("the box of adaptive measuring is clear");
   hand_.click(names::lineSettings, adaptiveBox);
   takeOverLineSettings();
-  const std::string read = requireStored(QStringLiteral("AutoAdapt"), QStringLiteral("0"));
+  const std::string read = requireStored("MessInfo_G", "AutoAdapt", QStringLiteral("0"));
   for (int row = 0; row < adaptivePoints; ++row) Spindle::requireAt(row, hand_.rows(names::line).value(row));
   return read + "; the readings stay";
 }
@@ -197,7 +230,8 @@ std::string Walk::adaptiveLine() {
 // ---- File and report ----
 
 std::string Walk::saveAdaptiveLine() {
-  evaluated(QStringLiteral("ISO"));
+  lineReadings_ = evaluated(QStringLiteral("ROH"));
+  lineRows_ = evaluated(QStringLiteral("ISO"));
   set(names::line, QStringLiteral("STATISTIK"));
   for (const char* key : {"x", "s", "R", "t"}) set(names::line, QLatin1String(key));
   std::string title =
@@ -205,6 +239,20 @@ std::string Walk::saveAdaptiveLine() {
                  QStringLiteral("Virtueller Messkopf, drei adaptive Punkte, eine Kreismitte"));
   hand_.picture(names::line, QStringLiteral("line-adaptive-saved"));
   return title;
+}
+
+std::string Walk::closeAdaptiveLine() {
+  hand_.choose(names::line, QStringLiteral("M_Beenden"));
+  // What is to be printed belongs to the file, and was chosen after it was saved.
+  hand_.waitFor(names::message);
+  const std::string question = hand_.messageText().join(QStringLiteral(": ")).simplified().toStdString();
+  hand_.accept(names::message);
+  hand_.waitGone(names::line);
+  return question + " Yes";
+}
+
+std::string Walk::adaptiveFiles() {
+  return compareLineFiles(places_.adaptiveLine, lineReadings_, lineRows_);
 }
 
 std::string Walk::adaptivePreview() {

@@ -48,7 +48,8 @@ std::string Walk::runAnalysis() {
   keepFromMidnight(2 * analysisSeconds);
   hand_.click(names::environment, start);
   hand_.waitForControl(names::environment, progress);
-  Gui::until("the middle of the analysis", analysisLimit, [] { return hasRun(picturedSeconds); });
+  Gui::until("the middle of the analysis", analysisLimit,
+             [] { return hasRun(picturedSeconds) || isShown(names::environment, resultFrame); });
   hand_.picture(names::environment, QStringLiteral("environment-running"));
   hand_.waitForControl(names::environment, resultFrame, true, analysisLimit);
   hand_.picture(names::environment, QStringLiteral("environment-finished"));
