@@ -45,10 +45,10 @@ struct Box {
 };
 constexpr std::array<Box, 8> objectBoxes = {{{"TextEinstellung(8)", "4", "MessInfo_G", "AnzMPs"},
                                              {"TextEinstellung(9)", "300", "MessInfo_G", "Distanz"},
-                                             {"TextEinstellung(10)", "0.08", "Toleranz_G", "XGesamt"},
+                                             {"TextEinstellung(10)", "0.09", "Toleranz_G", "XGesamt"},
                                              {"TextEinstellung(11)", "0.06", "Toleranz_G", "XWertPro"},
                                              {"TextEinstellung(12)", "100", "Toleranz_G", "XProEinheit"},
-                                             {"TextEinstellung(13)", "0.08", "Toleranz_G", "YGesamt"},
+                                             {"TextEinstellung(13)", "0.09", "Toleranz_G", "YGesamt"},
                                              {"TextEinstellung(14)", "0.06", "Toleranz_G", "YWertPro"},
                                              {"TextEinstellung(15)", "100", "Toleranz_G", "YProEinheit"}}};
 constexpr std::array<Box, 4> adaptiveBoxes = {
