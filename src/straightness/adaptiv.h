@@ -74,7 +74,10 @@ class AdaptivMessung {
   /// The loop of the point is to end: what the failure dialog does without a longer time.
   void aufgeben() { z_.AdaptWeiter = true; }
   /// The point is over, for whatever reason.
-  void beenden() { laeuft_ = false; }
+  void beenden() {
+    laeuft_ = false;
+    z_.AdaptWeiter = true;
+  }
 
   // ---- What a window shows ----
 

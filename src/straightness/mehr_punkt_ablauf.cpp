@@ -67,11 +67,14 @@ void MehrPunktAblauf::oeffnen() {
 void MehrPunktAblauf::abbrechen() {
   if (!offen() || zustand_ == Zustand::uebernimmt || zustand_ == Zustand::uebernommen) return;
   rahmenZu();
-  erfassung_.PunktSetzen(Leerwert, Leerwert);
+  // A point that was open and has taken no position is as it was.
+  const auto [X, Y] = erfassung_.PunktWert();
+  const bool geaendert = !istLeer(X) || !istLeer(Y);
+  if (geaendert) erfassung_.PunktSetzen(Leerwert, Leerwert);
   // At once: the next sample might be accepted, and would fill the point again.
   zyklus_.laufBeenden();
   zyklus_.vormerken('K');
-  fenster_.neuZeichnen(true);
+  fenster_.neuZeichnen(geaendert);
 }
 
 // ---- Positions ----
@@ -135,9 +138,11 @@ void MehrPunktAblauf::bereitMachen() {
 
 void MehrPunktAblauf::auswerten() {
   messung_.auswerten();
-  zustand_ = Zustand::ergebnis;
+  const bool erlaubt = imMessbereich(*messung_.mitte(), u_.korCom.SensorHalbbereich());
+  // Under the message there is nothing to accept.
+  if (erlaubt) zustand_ = Zustand::ergebnis;
   zeigen();
-  if (imMessbereich(*messung_.mitte(), u_.korCom.SensorHalbbereich())) {
+  if (erlaubt) {
     uebergeben(*messung_.mitte(), u_.antwort);
   } else {
     zuWeit();

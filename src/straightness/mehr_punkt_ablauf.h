@@ -90,7 +90,7 @@ class MehrPunktAblauf : public MehrPunktAbnehmer {
   enum class Zustand {
     zu,
     bereit,      ///< the next position may be taken
-    misst,       ///< a position is asked for or under way
+    misst,       ///< a position is asked for or under way, or the centre it led to is told to be too far off
     ergebnis,    ///< the centre waits for Accept
     uebernimmt,  ///< Accept was pressed
     uebernommen  ///< the centre is stored and shown for a while

@@ -247,6 +247,7 @@ TEST_F(AdaptivTest, LostLinkDropsTheSamplesAndKeepsAdaptiveMeasuring) {
   ASSERT_TRUE(finish(20));
   EXPECT_TRUE(view.raised("ICONFUNK"));
   EXPECT_EQ(X(1), Leerwert);
+  EXPECT_TRUE(state().AdaptWeiter) << "the point is over";
   EXPECT_TRUE(adapt().AutoAdapt);
   EXPECT_FALSE(view.progress.has_value());
   EXPECT_FALSE(cycle.tmrMj().enabled());

@@ -310,6 +310,7 @@ TEST_F(AdaptivTest, MeasuringKeyCancelsThePoint) {
   EXPECT_EQ(cycle.Tastenzustand(), 'K');
   EXPECT_TRUE(question.shown.empty());
   EXPECT_FALSE(point().laeuft());
+  EXPECT_TRUE(state().AdaptWeiter);
 }
 
 TEST_F(AdaptivTest, KeyThatCancelsIsFreeAndTheOthersAreNot) {

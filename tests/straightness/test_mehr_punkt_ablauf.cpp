@@ -446,6 +446,8 @@ TEST_F(MultiPoint, CentreTooFarOffIsToldAndNotStored) {
   EXPECT_EQ(world.messages.beeps, 1);
   EXPECT_EQ(world.messages.shown[0].title, "KORVIN-D2100");
   EXPECT_EQ(world.messages.shown[0].text, "D2107 (Xc / Yc)");
+  for (const auto& shown : frame.buttons)
+    EXPECT_FALSE(std::get<accept>(shown)) << "also under the message there is nothing to accept";
   EXPECT_FALSE(frame.open);
   EXPECT_FALSE(flow.offen());
   EXPECT_FALSE(task.MehrPunktAktiv());
@@ -496,6 +498,14 @@ TEST_F(MultiPoint, CancelEmptiesThePoint) {
     EXPECT_TRUE(static_cast<bool>(info().Geaendert)) << positions;
     EXPECT_TRUE(cycle.tmrPolling().enabled()) << positions;
   }
+}
+
+TEST_F(MultiPoint, CancelOfAnOpenPointBeforeTheFirstPositionChangesNothing) {
+  start();
+  flow.CmdMehrPunkt(cancel);
+  EXPECT_FALSE(static_cast<bool>(info().Geaendert));
+  EXPECT_TRUE(istLeer(X(1)));
+  EXPECT_FALSE(frame.open);
 }
 
 TEST_F(MultiPoint, CancelWhileAPositionIsTakenTakesNone) {
