@@ -207,6 +207,19 @@ TEST_F(OptionsGTest, AnUntouchedBoxStoresTheUnroundedValue) {
   }
 }
 
+TEST_F(OptionsGTest, UntouchedListsAndSwitchesStoreWhatTheyShow) {
+  store("MessInfo_G", "Filter", "7");
+  store("Toleranz_G", "ToleranzBezug", "3");
+  store("MessInfo_G", "AutoAdapt", "1");
+  store("DruckInfo_G", "CheckXTabelle", "-1.0");
+  confirm(fromSeries());
+  EXPECT_EQ(stored("MessInfo_G", "Filter"), "4");
+  EXPECT_EQ(stored("Toleranz_G", "ToleranzBezug"), "2");
+  EXPECT_EQ(stored("MessInfo_G", "SFAK"), "1") << "the default 0 is no factor";
+  EXPECT_EQ(stored("MessInfo_G", "AutoAdapt"), "0") << "1 sets no flag";
+  EXPECT_EQ(stored("DruckInfo_G", "CheckXTabelle"), "-1");
+}
+
 TEST_F(OptionsGTest, SoItDoesAfterTheDialogTookOverAndStayed) {
   store("MessInfo_G", "Distanz", "1234.5678");
   OptionsG dialog = fromSeries();
