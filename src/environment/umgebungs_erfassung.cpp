@@ -60,12 +60,6 @@ void UmgebungsErfassung::leeren() {
   ansicht_->zeigeGeleert();
 }
 
-void UmgebungsErfassung::nachZeichnen() {
-  const PositionsInfo& info = Info();
-  const auto s = standardabweichung(umgebung().formpos.arbeit().X, info.AnzahlMP);
-  if (s && info.MPAktuell > MindestensJenseits) AnalyseAnzahl_ = info.AnzahlMP;
-}
-
 // ---- The run ----
 
 bool UmgebungsErfassung::vorMessung(char zustand) {
@@ -85,6 +79,13 @@ void UmgebungsErfassung::AnalyseStarten(float sekunden) {
 LaufSchritt UmgebungsErfassung::laufSchritt() {
   if (grenzeErreicht()) return {LaufSchritt::Art::beenden, ' '};
   return {LaufSchritt::Art::senden, 'J'};
+}
+
+void UmgebungsErfassung::MesswertUebernehmen(const KameraAntwort& antwort) {
+  PunktErfassung::wertUebernehmen(antwort);
+  const PositionsInfo& info = Info();
+  const auto s = standardabweichung(umgebung().formpos.arbeit().X, info.AnzahlMP);
+  if (s && info.MPAktuell > MindestensJenseits) AnalyseAnzahl_ = info.AnzahlMP;
 }
 
 void UmgebungsErfassung::AnalyseTakt() {

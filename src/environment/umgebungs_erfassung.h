@@ -14,8 +14,7 @@ namespace korvin {
 inline constexpr int AnalyseDauer = 31;
 
 /// The environment analysis: for 31 seconds it takes readings as fast as the head delivers them, into the
-/// position record (`MesswertUebernehmen` is `wertUebernehmen`, as in position measuring); their spread tells
-/// how quiet the place is. What it keeps outlives its window.
+/// position record; their spread tells how quiet the place is. What it keeps outlives its window.
 ///
 /// Empty → `laufBeginnt` → running → `nachLauf` → finished, or empty again where fewer than three points were
 /// taken. Points that were in the record before a run count towards its result. A finished analysis begins no
@@ -40,10 +39,6 @@ class UmgebungsErfassung : public PunktErfassung {
   /// Its second part, outside of the ticks: all points gone, switches of the statistics on, no offset, no
   /// result.
   void leeren();
-  /// Belongs to each redraw: where the spread of X can be told and the cursor stands beyond the second point,
-  /// N becomes the number of points. Nothing else changes N in a run, so that it always belongs to a spread
-  /// that was computed.
-  void nachZeichnen();
 
   /// Finished: the result stands, until it is cleared.
   bool fertig() const { return fertig_; }
@@ -66,11 +61,16 @@ class UmgebungsErfassung : public PunktErfassung {
   bool laufFertig() const override { return zuEnde_; }
   void laufBeendet() override {}
   void nachLauf(LaufEnde ende) override;
+  void wertUebernehmen(const KameraAntwort& antwort) override { MesswertUebernehmen(antwort); }
 
  private:
   void AnalyseStarten(float sekunden);
   /// The end of a tick: a request to cancel, then the time, end the run; else it shows its progress.
   void AnalyseTakt();
+  /// Takes a good reading as a point. Where the spread of X can be told and the cursor stands beyond the
+  /// second point, N becomes the number of points. Nothing else changes N in a run: neither what the window
+  /// draws anew nor a refused reading makes samples of points that were there before.
+  void MesswertUebernehmen(const KameraAntwort& antwort);
   void AnalyseBeenden();
   void AnalyseAbbrechen();
   AnalyseErgebnis analyseErgebnis() const;

@@ -46,7 +46,6 @@ class AnalysisStand : public ::testing::Test {
     world.head.x = 250500;
     world.head.y = 250300;
     world.system.DbPfad = "/nowhere/korvin.mdb";
-    view.onRedraw = [this] { task.nachZeichnen(); };
     task.ersteAktivierung(window);
   }
 

@@ -103,7 +103,6 @@ class HandoverStudy {
         {world.clock, world.messages, world.dictionary, world.profil, world.meldung, world.system, formpos},
         set);
     RecordingView view;
-    view.onRedraw = [&task] { task.nachZeichnen(); };
     RecordingAnalysis window(view);
     Messzyklus cycle(world.surroundings(), world.head, task, view);
     task.ersteAktivierung(window);

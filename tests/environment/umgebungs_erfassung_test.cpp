@@ -420,7 +420,7 @@ TEST_F(Analysis, SinglePointsByTheHeadAreTakenInAFinishedOneToo) {
   world.head.behaviour = nullptr;
   headKey('M');
   EXPECT_EQ(info().AnzahlMP, points + 1);
-  EXPECT_EQ(task.AnalyseAnzahl(), points + 1) << "each redraw counts";
+  EXPECT_EQ(task.AnalyseAnzahl(), points + 1) << "each taken point counts";
 }
 
 TEST_F(Analysis, NumberOfSamplesBelongsToASpreadAndACursorBeyondTheSecondPoint) {
@@ -481,7 +481,6 @@ TEST_F(Analysis, FailureInATickCancelsAndClears) {
   bool failed = false;
   view.onRedraw = [&] {
     if (!std::exchange(failed, true)) throw std::runtime_error("painting failed");
-    task.nachZeichnen();
   };
   run(3);
   EXPECT_TRUE(failed);

@@ -2,7 +2,6 @@
 
 #include <QMenu>
 #include <QProgressBar>
-#include <QSplitter>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
@@ -104,7 +103,7 @@ void FormUmgebungsAnalyse::menusAnlegen() {
       ansicht, "M_xyNumZoom", 7191, [] {}, "NZOOM");
   board_.gitterEintrag(*menuEintrag(ansicht, "M_Gitter", 7192, [] {}));
   ansicht->addSeparator();
-  punktListenEintrag(ansicht, [this](bool an) { board_.liste().setVisible(an); });
+  punktListenEintrag(ansicht, [this](bool an) { listeSchalten(an); });
 
   verbindungsMenu();
   menuEintrag(
@@ -157,7 +156,6 @@ void FormUmgebungsAnalyse::neuZeichnen(bool /*geaendert*/) {
   const PositionsTexte texte = positionsTexte(p_.formpos);
   board_.zeige(texte);
   board_.panels().zeigeStatus(texte);
-  p_.erfassung.nachZeichnen();
   betriebZeigen();
 }
 
@@ -173,7 +171,9 @@ void FormUmgebungsAnalyse::zeigeErgebnis() {
   const AdaptSet& ergebnis = p_.erfassung.adaptSet();
   const bool da = ergebnis.sichtbar();
   const bool neu = listenPlatz_->isHidden() != da;
+  if (neu && da) teilungMerken();
   listenPlatz_->setVisible(!da);
+  unten_->setVisible(da || listeGewuenscht());
   FrmAdaptSet_->zeigen();
   if (neu) platzGeben(da);
   PictureStatistik& statistik = board_.bild().statistik();
@@ -185,15 +185,33 @@ void FormUmgebungsAnalyse::zeigeErgebnis() {
   betriebZeigen();
 }
 
+void FormUmgebungsAnalyse::listeSchalten(bool an) {
+  const bool ergebnis = p_.erfassung.adaptSet().sichtbar();
+  if (!ergebnis) teilungMerken();
+  board_.liste().setVisible(an);
+  // Nothing below the panels: these take the room.
+  unten_->setVisible(an || ergebnis);
+}
+
+bool FormUmgebungsAnalyse::listeGewuenscht() {
+  return !board_.liste().isHidden();
+}
+
+void FormUmgebungsAnalyse::teilungMerken() {
+  if (!unten_->isHidden()) teilung_ = teiler().sizes();
+}
+
 void FormUmgebungsAnalyse::platzGeben(bool ergebnis) {
-  auto* teiler = qobject_cast<QSplitter*>(unten_->parentWidget());
   if (ergebnis) {
-    teilung_ = teiler->sizes();
     const int gewuenscht = FrmAdaptSet_->sizeHint().height();
-    teiler->setSizes({teiler->height() - gewuenscht, gewuenscht});
+    teiler().setSizes({teiler().height() - gewuenscht, gewuenscht});
   } else {
-    teiler->setSizes(teilung_);
+    teiler().setSizes(teilung_);
   }
+}
+
+QSplitter& FormUmgebungsAnalyse::teiler() {
+  return *qobject_cast<QSplitter*>(unten_->parentWidget());
 }
 
 void FormUmgebungsAnalyse::setStartFrei(bool frei) {

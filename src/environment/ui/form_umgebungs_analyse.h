@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QSplitter>
 #include <optional>
 
 #include "environment/ui/frm_adapt_set.h"
@@ -48,6 +49,12 @@ class FormUmgebungsAnalyse : public Messfenster, private AnalyseAnsicht {
   void statistikTasten(bool sichtbar);
   /// Gives the result the height it wants, at the cost of the panels, or takes it back.
   void platzGeben(bool ergebnis);
+  /// The user wants the list of points, or does without it.
+  void listeSchalten(bool an);
+  bool listeGewuenscht();
+  /// Keeps how the height is shared, if anything is shown below the panels.
+  void teilungMerken();
+  QSplitter& teiler();
   void M_MessLöschen();
   PictureDesk bildAblage(const char* name);
 

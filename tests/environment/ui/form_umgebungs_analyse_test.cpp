@@ -134,6 +134,19 @@ TEST_F(Analysis, TooFewPointsLeaveTheWindowReadyForAnotherRun) {
   expectEmpty();
 }
 
+TEST_F(Analysis, WhatIsDrawnAnewInARunMakesNoSamplesOfThePointsBefore) {
+  show();
+  for (int i = 0; i < 4; ++i) takePoint();
+  world.head.intensity = 5;
+  start();
+  for (const char* name : {"x", "Fx", "MPL"}) click(name);
+  run(31.5);
+  EXPECT_EQ(task().AnalyseAnzahl(), 0);
+  EXPECT_FALSE(frame().isVisible());
+  EXPECT_TRUE(enabled("XYMPNN"));
+  EXPECT_EQ(info().AnzahlMP, 4);
+}
+
 TEST_F(Analysis, RunInSimulationGivesAResult) {
   world.head.openError = 8005;
   show();
@@ -337,6 +350,32 @@ TEST_F(Analysis, GridAndListAreSwitchedInTheMenu) {
   EXPECT_FALSE(info().Gitter);
   entry("M_PunktListe")->trigger();
   EXPECT_FALSE(form->findChild<PointList*>()->isVisible());
+}
+
+TEST_F(Analysis, ListHiddenByTheMenuLeavesItsRoomToThePanels) {
+  show();
+  const auto panels = [this] {
+    settle();
+    return form->findChild<PositionPanels*>()->height();
+  };
+  const int shared = panels();
+  entry("M_PunktListe")->trigger();
+  const int whole = panels();
+  EXPECT_GT(whole, shared + 100);
+  finish();
+  EXPECT_LT(panels(), whole);
+  EXPECT_TRUE(save()->hasFocus());
+  click("LOESCHEN");
+  run(0.4);
+  EXPECT_NEAR(panels(), whole, 1);
+  entry("M_PunktListe")->trigger();
+  EXPECT_NEAR(panels(), shared, 1);
+  finish();
+  entry("M_PunktListe")->trigger();
+  EXPECT_TRUE(frame().isVisible());
+  click("LOESCHEN");
+  run(0.4);
+  EXPECT_NEAR(panels(), whole, 1);
 }
 
 TEST_F(Analysis, ListHiddenByTheMenuStaysSoAfterAResult) {
