@@ -85,6 +85,15 @@ TEST_F(AchsenBlockTest, CellsStandAtTheirPlaces) {
   EXPECT_EQ(paper.textBei(1, 35, 101).groesse, 9);
 }
 
+TEST_F(AchsenBlockTest, ACellWithoutATextIsLeftOut) {
+  AchsenBlockTexte words = texts();
+  words.streuung.clear();
+  words.mittel.clear();
+  AchsenBlock(paper, 10, 100, achsenBlock(words));
+  EXPECT_EQ(paper.texte(1).size(), 10U - 3U) << "nor was there a title";
+  EXPECT_EQ(paper.linien(1).size(), 3U + 3U + 3U + 4U) << "no bar without an x";
+}
+
 TEST_F(AchsenBlockTest, WithoutTolerances) {
   series.X.ToleranzBezug = BezugNull;
   const AchsenBlockTexte its = texts();
