@@ -71,7 +71,6 @@ void UmgebungsErfassung::AnalyseStarten(float sekunden) {
   ansicht_->zeigeErgebnis();
   AnalyseAnzahl_ = 0;
   AnalyseEnde_ = static_cast<double>(sekunden) + AnalyseDauer;
-  zuEnde_ = false;
   abgebrochen_ = false;
   ansicht_->zeigeFortschritt(0);
 }

@@ -52,6 +52,17 @@ TEST_F(Analysis, OpensWithoutThePointsAndRangesOfAnother) {
   EXPECT_FALSE(formpos.arbeit().Y.NumZoom);
 }
 
+TEST_F(Analysis, OpensWithoutTheResultOfTheLastWindow) {
+  scatter();
+  start();
+  runToItsEnd();
+  result.OptPrio(1);
+  task.ersteAktivierung(window);
+  EXPECT_TRUE(hidden());
+  EXPECT_FALSE(task.fertig());
+  EXPECT_TRUE(result.anzeige().Beta5);
+}
+
 // ---- A whole run ----
 
 TEST_F(Analysis, TakesReadingsForThirtyOneSecondsAndGivesAResult) {
@@ -172,6 +183,17 @@ TEST_F(Analysis, StoresMilInTheInchSystemAndTurnsByTheMounting) {
   EXPECT_DOUBLE_EQ(formpos.punkte().X().at(1), -0.05 / 0.0254);
   EXPECT_DOUBLE_EQ(formpos.punkte().Y().at(1), 0.03 / 0.0254);
   EXPECT_NEAR(formpos.punkte().T().at(1), world.clock.now(), 1e-4);
+  runToItsEnd();
+  EXPECT_TRUE(result.bild().inch);
+}
+
+TEST_F(Analysis, StartTakesTheResultAway) {
+  scatter();
+  start();
+  runToItsEnd();
+  ASSERT_TRUE(result.sichtbar());
+  task.laufBeginnt(36000);
+  EXPECT_FALSE(result.sichtbar());
 }
 
 // ---- The length of the run ----
@@ -443,6 +465,21 @@ TEST_F(Analysis, NumberOfSamplesBelongsToASpreadAndACursorBeyondTheSecondPoint) 
   EXPECT_EQ(task.AnalyseAnzahl(), 0);
 }
 
+TEST_F(Analysis, RedrawWithTheCursorOnTheSecondPointLeavesTheNumberOfSamples) {
+  online();
+  singlePoints(4);
+  world.head.intensity = 0;
+  press();
+  run(0.4);
+  ASSERT_TRUE(cycle.laeuft());
+  task.cursorBewegen(-2);
+  view.neuZeichnen(false);
+  EXPECT_EQ(task.AnalyseAnzahl(), 0);
+  task.cursorBewegen(1);
+  view.neuZeichnen(false);
+  EXPECT_EQ(task.AnalyseAnzahl(), 4);
+}
+
 // ---- Failures ----
 
 TEST_F(Analysis, LostLinkCancelsAndClears) {
@@ -573,6 +610,18 @@ TEST_F(Limit, FullRecordEndsTheRunAtItsFirstTickAndKeepsAll) {
   EXPECT_EQ(task.AnalyseAnzahl(), 0);
   EXPECT_TRUE(startFree());
   EXPECT_TRUE(hidden());
+}
+
+TEST_F(Limit, FullRecordIsKeptAfterARunThatWasCancelledBefore) {
+  start();
+  clear();
+  run(0.4);
+  expectEmpty();
+  fill(29999);
+  press();
+  run(0.4);
+  expectTold();
+  EXPECT_EQ(info().AnzahlMP, 29999);
 }
 
 TEST_F(Limit, RecordThatFillsUpIsToldAndHasNoResultForSoMany) {
