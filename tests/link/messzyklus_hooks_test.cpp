@@ -195,5 +195,19 @@ TEST_F(CycleHookTest, RunMayHaveALimitOfItsOwnTheHourglassAndNoEndByKeys) {
   EXPECT_NEAR(sent[1] - sent[0], 2 * 0.7, 0.05);
 }
 
+TEST_F(CycleHookTest, HourglassOfAClosingWindowOutlivesItsRun) {
+  task.description.sanduhrImLauf = true;
+  start();
+  request('J');
+  world.head.behaviour = [](char) { return std::string(); };
+  world.clock.after(0.5, [this] { cycle->schliessenAnfordern(); });
+  bool atUnload = false;
+  view.onUnload = [&] { atUnload = view.hourglass; };
+  world.clock.advance(20);
+  ASSERT_EQ(view.unloads, 1);
+  EXPECT_EQ(task.evaluations, std::vector{LaufEnde::verbindung});
+  EXPECT_TRUE(atUnload);
+}
+
 }  // namespace
 }  // namespace korvin
