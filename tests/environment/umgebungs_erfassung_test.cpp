@@ -161,6 +161,7 @@ TEST_F(Analysis, RunByTheHeadsKey) {
 
 TEST_F(Analysis, NoKeyOfTheHeadOrTheWindowEndsIt) {
   start();
+  run(1);
   world.head.key = 'J';
   run(1);
   cycle.anfordern('J');

@@ -183,6 +183,7 @@ TEST_F(CycleHookTest, RunMayHaveALimitOfItsOwnTheHourglassAndNoEndByKeys) {
   world.head.key = 'J';
   world.clock.advance(0.2);
   EXPECT_TRUE(cycle->laeuft());
+  EXPECT_EQ(task.runsBegun, 1);
   std::vector<double> sent;
   world.head.behaviour = [&](char) {
     sent.push_back(world.clock.elapsed());
