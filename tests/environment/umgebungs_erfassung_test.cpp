@@ -169,6 +169,7 @@ TEST_F(Analysis, NoKeyOfTheHeadOrTheWindowEndsIt) {
   cycle.anfordern('Q');
   run(1);
   EXPECT_TRUE(cycle.laeuft());
+  EXPECT_GT(info().AnzahlMP, 35) << "one and the same run";
 }
 
 TEST_F(Analysis, StoresTheSignOfYInverted) {

@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 
+#include <QListWidget>
 #include <QPushButton>
 
 #include "analysis_window.h"
@@ -172,6 +173,46 @@ TEST_F(Analysis, ClearingInARunEmptiesTheWindow) {
   click("LOESCHEN");
   run(0.4);
   expectEmpty();
+}
+
+TEST_F(Analysis, ClearingEmptiesTheListOfTelegramsToo) {
+  show();
+  QTest::mouseDClick(label("lblMSCommInput(0)"), Qt::LeftButton);
+  run(1);
+  auto* telegrams = form->findChild<QListWidget*>(QStringLiteral("LstCamMsg"));
+  ASSERT_GT(telegrams->count(), 3);
+  click("LOESCHEN");
+  EXPECT_EQ(telegrams->count(), 0);
+}
+
+TEST_F(Analysis, ClearingGivesThePanelsTheirRoomBack) {
+  show();
+  auto* panels = form->findChild<PositionPanels*>();
+  const int height = panels->height();
+  finish();
+  settle();
+  EXPECT_LT(panels->height(), height);
+  click("LOESCHEN");
+  settle();
+  EXPECT_EQ(panels->height(), height);
+}
+
+TEST_F(Analysis, AStartBetweenAClearAndTheEndOfItsRunTakesNothingBack) {
+  show();
+  start();
+  run(2);
+  click("LOESCHEN");
+  click("XYMPNN");
+  EXPECT_TRUE(task().AnalyseAbbruch());
+  run(0.4);
+  expectEmpty();
+}
+
+TEST_F(Analysis, ClearingAClosingWindowLeavesNoRequestBehind) {
+  show();
+  form->close();
+  click("LOESCHEN");
+  EXPECT_FALSE(task().AnalyseAbbruch());
 }
 
 TEST_F(Analysis, ClearingWhileAnAnswerIsAwaitedEmptiesTheWindow) {
