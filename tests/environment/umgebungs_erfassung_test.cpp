@@ -467,21 +467,6 @@ TEST_F(Analysis, NumberOfSamplesBelongsToASpreadAndACursorBeyondTheSecondPoint) 
   EXPECT_EQ(task.AnalyseAnzahl(), 0);
 }
 
-TEST_F(Analysis, RedrawWithTheCursorOnTheSecondPointLeavesTheNumberOfSamples) {
-  online();
-  singlePoints(4);
-  world.head.intensity = 0;
-  press();
-  run(0.4);
-  ASSERT_TRUE(cycle.laeuft());
-  task.cursorBewegen(-2);
-  view.neuZeichnen(false);
-  EXPECT_EQ(task.AnalyseAnzahl(), 0);
-  task.cursorBewegen(1);
-  view.neuZeichnen(false);
-  EXPECT_EQ(task.AnalyseAnzahl(), 4);
-}
-
 // ---- Failures ----
 
 TEST_F(Analysis, LostLinkCancelsAndClears) {
