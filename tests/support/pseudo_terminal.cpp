@@ -81,7 +81,8 @@ unsigned PseudoTerminal::speed() const {
 
 void PseudoTerminal::hangUp() {
   if (master_ < 0) return;
-  // An open end keeps the number: nobody else's line gets the name under which the program looks for this one.
+  // An open end keeps the number: nobody else's line gets the name under which the program looks for this
+  // one.
   number_ = open(path_.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC);
   close(master_);
   master_ = -1;
